@@ -1,0 +1,21 @@
+#pragma once
+
+#include <string>
+
+class TiXmlDocument;
+
+// Loads an XML file into a TinyXML document, refusing input that would take
+// the recursive parser too deep (TinyXML has no depth limit of its own).
+class CXmlFileLoader {
+public:
+    static constexpr int kMaxDepth = 200;
+
+    // True when the file was read and parsed without error. On a refused or
+    // unreadable file the document is left empty with its error flag set.
+    static bool Load(TiXmlDocument& doc, const std::string& path);
+    static bool Parse(TiXmlDocument& doc, const std::string& text);
+
+    // Deepest element nesting of the text, counted leniently; returns as
+    // soon as limit is passed.
+    static int NestingDepth(const std::string& text, int limit);
+};

@@ -1,0 +1,161 @@
+// Runs the real executable from a copy of its directory and reads the
+// start-up diagnostics it prints when asked to.
+#include <gtest/gtest.h>
+#include <cstdio>
+#include <filesystem>
+#include <string>
+#include <sys/wait.h>
+
+#include "BadXml.h"
+#include "TempDir.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+struct RunResult {
+    int exitCode = -1;
+    std::string output;
+};
+
+RunResult Run(const std::string& command)
+{
+    RunResult result;
+    FILE* pipe = popen((command + " 2>&1").c_str(), "r");
+    if (!pipe)
+        return result;
+    char buffer[4096];
+    std::size_t n;
+    while ((n = fread(buffer, 1, sizeof buffer, pipe)) > 0)
+        result.output.append(buffer, n);
+    int status = pclose(pipe);
+    result.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    return result;
+}
+
+const char* kStartEnv = "env QT_QPA_PLATFORM=offscreen QT_LOGGING_RULES='tallix.start.debug=true' ";
+
+// A private application directory, so tests can change its files.
+class AppCopy {
+public:
+    AppCopy()
+    {
+        fs::copy(TALLIX_APP_DIR, m_dir.File("app"), fs::copy_options::recursive);
+    }
+    std::string Dir() const { return m_dir.File("app"); }
+    void Write(const std::string& name, const std::string& content) const { m_dir.Write("app/" + name, content); }
+    void Remove(const std::string& name) const { fs::remove(Dir() + "/" + name); }
+    RunResult Start() const
+    {
+        // Started from elsewhere: the program must find its files by itself.
+        return Run("cd / && " + std::string(kStartEnv) + "'" + Dir() + "/tallix'");
+    }
+
+private:
+    TempDir m_dir;
+};
+
+bool Has(const RunResult& r, const std::string& line)
+{
+    return r.output.find(line) != std::string::npos;
+}
+
+TEST(StartupTest, ShippedDirectoryStartsInEnglishWithDefaults)
+{
+    AppCopy app;
+    RunResult r = app.Start();
+    EXPECT_EQ(r.exitCode, 0) << r.output;
+    EXPECT_TRUE(Has(r, "style sheet applied")) << r.output;
+    EXPECT_TRUE(Has(r, "language 0")) << r.output;
+    EXPECT_TRUE(Has(r, "recordable percentage 90")) << r.output;
+    EXPECT_TRUE(Has(r, "product name Tallix Storage Planner")) << r.output;
+}
+
+TEST(StartupTest, NormalRunPrintsNothing)
+{
+    RunResult r = Run("cd / && env QT_QPA_PLATFORM=offscreen '" + std::string(TALLIX_EXE) + "'");
+    EXPECT_EQ(r.exitCode, 0);
+    EXPECT_EQ(r.output, "");
+}
+
+struct StartCase {
+    const char* name;
+    const char* file;
+    const char* content;  // null removes the file
+    const char* expected;
+};
+
+class StartupFilesTest : public ::testing::TestWithParam<StartCase> {};
+
+TEST_P(StartupFilesTest, ReadsItsFilesFromTheApplicationDirectory)
+{
+    AppCopy app;
+    if (GetParam().content)
+        app.Write(GetParam().file, GetParam().content);
+    else
+        app.Remove(GetParam().file);
+    RunResult r = app.Start();
+    EXPECT_EQ(r.exitCode, 0) << r.output;
+    EXPECT_TRUE(Has(r, GetParam().expected)) << r.output;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Cases, StartupFilesTest,
+    ::testing::Values(
+        StartCase{"Config85", "config.xml",
+                  "<Setting><UIConfig><RecordblePersentage value=\"85\"/></UIConfig></Setting>",
+                  "recordable percentage 85"},
+        StartCase{"ConfigBroken", "config.xml", "<Setting><UIConfig>", "recordable percentage 90"},
+        StartCase{"Chinese", "Language.xml", "<Language><Select value=\"1\"/></Language>",
+                  "product name Tallix \xE5\xAD\x98"},
+        StartCase{"NoLanguageChoice", "Language.xml", nullptr, "language 1"},
+        StartCase{"NoDictionary", "Lang_en.xml", nullptr, "product name ProductName"},
+        StartCase{"NoStyleSheet", "Tallix_Style.css", nullptr, "style sheet none"}),
+    [](const ::testing::TestParamInfo<StartCase>& info) { return std::string(info.param.name); });
+
+class StartupBadFileTest : public ::testing::TestWithParam<BadXmlCase> {};
+
+TEST_P(StartupBadFileTest, EveryFileFallsBack)
+{
+    AppCopy app;
+    for (const char* file : {"Language.xml", "Lang_en.xml", "Lang_cn.xml", "config.xml"}) {
+        if (GetParam().present)
+            app.Write(file, GetParam().content);
+        else
+            app.Remove(file);
+    }
+    RunResult r = app.Start();
+    EXPECT_EQ(r.exitCode, 0) << r.output.substr(0, 2000);
+    EXPECT_TRUE(Has(r, "language 1"));
+    EXPECT_TRUE(Has(r, "recordable percentage 90"));
+    EXPECT_TRUE(Has(r, "product name ProductName"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Files, StartupBadFileTest, ::testing::ValuesIn(BadXmlCases()),
+                         [](const ::testing::TestParamInfo<BadXmlCase>& info) {
+                             return std::string(info.param.name);
+                         });
+
+TEST(StartupTest, InstalledLinkFindsTheData)
+{
+    TempDir prefix;
+    RunResult install = Run("cmake --install '" + std::string(TALLIX_BINARY_DIR) + "' --prefix '" +
+                            prefix.Path() + "'");
+    ASSERT_EQ(install.exitCode, 0) << install.output;
+    std::string link = prefix.File("bin/tallix");
+    ASSERT_TRUE(fs::is_symlink(link));
+    RunResult r = Run("cd / && " + std::string(kStartEnv) + "'" + link + "'");
+    EXPECT_EQ(r.exitCode, 0) << r.output;
+    EXPECT_TRUE(Has(r, "application directory " + prefix.Path() + "/lib/tallix")) << r.output;
+    EXPECT_TRUE(Has(r, "product name Tallix Storage Planner")) << r.output;
+}
+
+TEST(StartupTest, RunCommandWithoutDisplayExplainsXvfb)
+{
+    RunResult r = Run("env -u DISPLAY -u WAYLAND_DISPLAY '" + std::string(TALLIX_SOURCE_DIR) + "/tools/run.sh'");
+    EXPECT_NE(r.exitCode, 0);
+    EXPECT_TRUE(Has(r, "display")) << r.output;
+    EXPECT_TRUE(Has(r, "xvfb-run")) << r.output;
+}
+
+} // namespace

@@ -1,0 +1,14 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds Tallix and starts it.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+if [ -z "${DISPLAY:-}" ] && [ -z "${WAYLAND_DISPLAY:-}" ]; then
+  echo "Tallix needs a graphical display and none is set (DISPLAY and WAYLAND_DISPLAY are empty); to run it without one, use a virtual display: xvfb-run -a tools/run.sh" >&2
+  exit 1
+fi
+
+tools/install-deps.sh
+cmake -S . -B build -DCMAKE_BUILD_TYPE=RelWithDebInfo
+cmake --build build -j"$(nproc)" --target tallix
+exec build/app/tallix "$@"
