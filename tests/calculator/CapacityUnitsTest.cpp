@@ -1,0 +1,110 @@
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <cmath>
+#include <limits>
+#include <string>
+
+#include "BoundedFormat.h"
+#include "CapacityUnits.h"
+#include "SaturatingTruncate.h"
+
+namespace {
+
+struct CapacityCase {
+    double dGB;
+    const wchar_t* pszText;
+};
+
+class CapacityTextTest : public ::testing::TestWithParam<CapacityCase> {};
+
+TEST_P(CapacityTextTest, StepsAboveTenThousandOfTheCurrentUnit)
+{
+    EXPECT_EQ(FormatCapacityGB(GetParam().dGB), GetParam().pszText);
+}
+
+INSTANTIATE_TEST_SUITE_P(Units, CapacityTextTest, ::testing::Values(
+    CapacityCase{0.0, L"0.00GB"},
+    CapacityCase{147.65625, L"147.66GB"},
+    CapacityCase{10000.0, L"10000.00GB"},
+    CapacityCase{10000.001, L"9.77TB"},
+    // 10000 TB stays in TB, one step more goes to PB.
+    CapacityCase{10000.0 * 1024, L"10000.00TB"},
+    CapacityCase{10001.0 * 1024, L"9.77PB"},
+    CapacityCase{10001.0 * 1024 * 1024, L"9.77EB"},
+    // EB is the last unit: no further step however large.
+    CapacityCase{1e20, L"93132257461.55EB"}));
+
+struct BitrateCase {
+    double dKbps;
+    const wchar_t* pszText;
+};
+
+class BitrateTextTest : public ::testing::TestWithParam<BitrateCase> {};
+
+TEST_P(BitrateTextTest, StepsToGbpsAtMost)
+{
+    EXPECT_EQ(FormatTotalBitrate(GetParam().dKbps), GetParam().pszText);
+}
+
+INSTANTIATE_TEST_SUITE_P(Units, BitrateTextTest, ::testing::Values(
+    BitrateCase{0.0, L"0.00 kbps"},
+    BitrateCase{10000.0, L"10000.00 kbps"},
+    BitrateCase{10001.0, L"9.77 Mbps"},
+    // 10240000 kbps is exactly 10000 Mbps and so stays in Mbps.
+    BitrateCase{10240000.0, L"10000.00 Mbps"},
+    BitrateCase{10240001.0, L"9.77 Gbps"},
+    BitrateCase{20000000000.0, L"19073.49 Gbps"}));
+
+TEST(TotalsTextTest, HugeRateKeepsAllItsDigits)
+{
+    const std::wstring strText = FormatTotalBitrate(1e300);
+    // 1e300 / 1024 / 1024 has 294 digits before the point.
+    EXPECT_EQ(strText.size(), 294u + 3u + 5u);
+    EXPECT_EQ(strText.substr(strText.size() - 5), L" Gbps");
+}
+
+TEST(TotalsTextTest, ChannelCount)
+{
+    EXPECT_EQ(FormatChannelCount(0), L"0");
+    EXPECT_EQ(FormatChannelCount(128), L"128");
+}
+
+TEST(CapacityUnitTextTest, OutOfRangeIsEmpty)
+{
+    EXPECT_EQ(std::wstring(CapacityUnitText(-1)), L"");
+    EXPECT_EQ(std::wstring(CapacityUnitText(4)), L"");
+    EXPECT_EQ(std::wstring(CapacityUnitText(3)), L"EB");
+}
+
+TEST(BoundedFormatTest, CutsWhatDoesNotFit)
+{
+    EXPECT_EQ(FormatBounded(5, L"%d", 123456), L"1234");
+    EXPECT_EQ(FormatBounded(7, L"%d", 123456), L"123456");
+    EXPECT_EQ(FormatBounded(1, L"%d", 7), L"");
+    EXPECT_EQ(FormatBounded(0, L"%d", 7), L"");
+    EXPECT_EQ(FormatBounded(8, nullptr), L"");
+}
+
+struct TruncCase {
+    double dValue;
+    long long nExpected;
+};
+
+class TruncateTest : public ::testing::TestWithParam<TruncCase> {};
+
+TEST_P(TruncateTest, TowardsZeroAndSaturated)
+{
+    EXPECT_EQ(TruncateToInt64(GetParam().dValue), GetParam().nExpected);
+}
+
+INSTANTIATE_TEST_SUITE_P(Values, TruncateTest, ::testing::Values(
+    TruncCase{40.69, 40},
+    TruncCase{-0.7, 0},
+    TruncCase{-2.5, -2},
+    TruncCase{1e30, LLONG_MAX},
+    TruncCase{-1e30, LLONG_MIN},
+    TruncCase{std::numeric_limits<double>::infinity(), LLONG_MAX},
+    TruncCase{std::nan(""), 0}));
+
+} // namespace

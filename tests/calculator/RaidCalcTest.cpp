@@ -1,0 +1,121 @@
+#include <gtest/gtest.h>
+
+#include "DeviceCount.h"
+#include "RaidCapacity.h"
+#include "RaidTables.h"
+
+namespace {
+
+struct CapacityCase {
+    int nDevice;
+    int nLevel;
+    int nBaySel;
+    int nDiskSel;
+    const wchar_t* pszText;
+};
+
+class RaidCapacityTest : public ::testing::TestWithParam<CapacityCase> {};
+
+TEST_P(RaidCapacityTest, AvailableTB)
+{
+    const CRaidTables tables;
+    const CapacityCase& c = GetParam();
+    const CalcResult result = CalcRaidCapacity(tables, c.nDevice, c.nLevel, c.nBaySel, c.nDiskSel);
+    EXPECT_EQ(result.strValue, c.pszText);
+    EXPECT_TRUE(result.bTwinkle);
+}
+
+INSTANTIATE_TEST_SUITE_P(Layouts, RaidCapacityTest, ::testing::Values(
+    // 1 * 4 * 0.9
+    CapacityCase{0, 0, 0, 0, L"3.60TB"},
+    // 4 * 12 * 0.9
+    CapacityCase{0, 1, 1, 3, L"43.20TB"},
+    // 16 * 41 * 0.9
+    CapacityCase{3, 1, 2, 15, L"590.40TB"},
+    CapacityCase{1, 1, 2, 15, L"432.00TB"},
+    CapacityCase{3, 2, 0, 9, L"162.00TB"},
+    // Selections without an entry give no disks.
+    CapacityCase{0, 0, -1, 0, L"0.00TB"},
+    CapacityCase{4, 0, 0, 0, L"0.00TB"},
+    CapacityCase{3, 1, 3, 15, L"0.00TB"},
+    CapacityCase{0, 0, 0, -1, L"0.00TB"}));
+
+struct DeviceCase {
+    const char* pszName;
+    double dRate;
+    int nDays;
+    int nDevice;
+    int nLevel;
+    int nBaySel;
+    int nDiskSel;
+    const wchar_t* pszText;
+    bool bFixValueRect;
+};
+
+class DeviceCountTest : public ::testing::TestWithParam<DeviceCase> {};
+
+TEST_P(DeviceCountTest, RequestDevice)
+{
+    const CRaidTables tables;
+    const DeviceCase& c = GetParam();
+    const CalcResult result = CalcDeviceCount(tables, c.dRate, c.nDays, c.nDevice, c.nLevel,
+                                              c.nBaySel, c.nDiskSel, L"Device", L"Devices");
+    EXPECT_EQ(result.strValue, c.pszText);
+    EXPECT_EQ(result.bFixValueRect, c.bFixValueRect);
+    EXPECT_TRUE(result.bTwinkle);
+}
+
+INSTANTIATE_TEST_SUITE_P(Answers, DeviceCountTest, ::testing::Values(
+    // need 126562.5, capacity 265420.8: ratio 0.4768
+    DeviceCase{"OneDevice", 409600.0, 30, 1, 2, 3, 7, L"1 Device", true},
+    // need 22118.4 is exactly twice the 11059.2 of one device.
+    DeviceCase{"ExactlyTwo", 2147483.648, 1, 0, 0, 0, 2, L"2 Devices", true},
+    DeviceCase{"JustAboveTwo", 2147483.649, 1, 0, 0, 0, 2, L"3 Devices", true},
+    // One device holds 3686.4 GB.
+    DeviceCase{"RatioOne", 357913.9413333333, 1, 0, 0, 0, 0, L"1 Device", true},
+    DeviceCase{"Ratio99998Half", 35790857262.42133, 1, 0, 0, 0, 0, L"99999 Devices", true},
+    DeviceCase{"Ratio99999Half", 35791215176.36267, 1, 0, 0, 0, 0, L"100000\r\nDevices", false},
+    DeviceCase{"ZeroRate", 0.0, 30, 1, 2, 3, 7, L"0  Device", true},
+    DeviceCase{"NoDataDisks", 409600.0, 30, 0, 0, -1, 0, L"0  Device", false},
+    DeviceCase{"UnknownDevice", 409600.0, 30, 7, 0, 0, 0, L"0  Device", false}),
+    [](const ::testing::TestParamInfo<DeviceCase>& info) { return std::string(info.param.pszName); });
+
+TEST(DeviceCountTest, HugeDemandStaysOnTwoLines)
+{
+    const CRaidTables tables;
+    const CalcResult result =
+        CalcDeviceCount(tables, 1e300, 3650, 0, 0, 0, 0, L"Device", L"Devices");
+    EXPECT_EQ(result.strValue, L"9223372036854775807\r\nDevices");
+    EXPECT_FALSE(result.bFixValueRect);
+}
+
+struct CountTextCase {
+    long long nDevices;
+    const wchar_t* pszText;
+};
+
+class DeviceCountTextTest : public ::testing::TestWithParam<CountTextCase> {};
+
+TEST_P(DeviceCountTextTest, WordAndLines)
+{
+    EXPECT_EQ(FormatDeviceCount(GetParam().nDevices, L"Device", L"Devices"), GetParam().pszText);
+}
+
+INSTANTIATE_TEST_SUITE_P(Counts, DeviceCountTextTest, ::testing::Values(
+    CountTextCase{0, L"0 Device"},
+    CountTextCase{1, L"1 Device"},
+    CountTextCase{2, L"2 Devices"},
+    CountTextCase{99999, L"99999 Devices"},
+    CountTextCase{100000, L"100000\r\nDevices"}));
+
+TEST(DeviceCountFormulaTest, RoundsUpUnlessExact)
+{
+    EXPECT_EQ(RequestDeviceCount(2 * 3686.4, 3686.4), 2);
+    EXPECT_EQ(RequestDeviceCount(3686.5, 3686.4), 2);
+    EXPECT_EQ(RequestDeviceCount(100.0, 3686.4), 1);
+    EXPECT_EQ(RequestDeviceCount(0.0, 3686.4), 0);
+    EXPECT_DOUBLE_EQ(RaidDeviceCapacityGB(7, 36), 265420.8);
+    EXPECT_EQ(FormatZeroDevices(L"Device"), L"0  Device");
+}
+
+} // namespace
