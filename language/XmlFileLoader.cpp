@@ -3,6 +3,7 @@
 #include <cctype>
 #include <fstream>
 #include <iterator>
+#include <sys/stat.h>
 #include <tinyxml.h>
 
 namespace {
@@ -107,8 +108,12 @@ bool CXmlFileLoader::Parse(TiXmlDocument& doc, const std::string& text)
 
 bool CXmlFileLoader::Load(TiXmlDocument& doc, const std::string& path)
 {
-    std::ifstream in(path, std::ios::binary);
-    if (!in) {
+    // A directory of that name would make the stream throw.
+    struct stat st;
+    std::ifstream in;
+    if (::stat(path.c_str(), &st) == 0 && S_ISREG(st.st_mode))
+        in.open(path, std::ios::binary);
+    if (!in.is_open() || !in) {
         doc.Clear();
         doc.Parse("");
         return false;

@@ -9,6 +9,6 @@ if [ -z "${DISPLAY:-}" ] && [ -z "${WAYLAND_DISPLAY:-}" ]; then
 fi
 
 tools/install-deps.sh
-cmake -S . -B build -DCMAKE_BUILD_TYPE=RelWithDebInfo
-cmake --build build -j"$(nproc)" --target tallix
-exec build/app/tallix "$@"
+cmake -S . -B build-release -DCMAKE_BUILD_TYPE=RelWithDebInfo -DTALLIX_BUILD_TESTS=OFF
+cmake --build build-release -j"$(nproc)" --target tallix
+exec build-release/app/tallix "$@"

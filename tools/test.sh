@@ -13,6 +13,6 @@ if [ "${TALLIX_SANITIZE:-0}" = "1" ]; then
   sanitize=ON
 fi
 
-cmake -S . -B "$build" -DCMAKE_BUILD_TYPE=RelWithDebInfo -DTALLIX_SANITIZE="$sanitize"
+cmake -S . -B "$build" -DCMAKE_BUILD_TYPE=Debug -DTALLIX_SANITIZE="$sanitize"
 cmake --build "$build" -j"$(nproc)"
 ctest --test-dir "$build" --output-on-failure -j"$(nproc)"

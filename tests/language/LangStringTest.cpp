@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 #include <cwchar>
+#include <filesystem>
 #include <string>
 
 #include "BadXml.h"
@@ -105,6 +106,15 @@ INSTANTIATE_TEST_SUITE_P(Files, BadFileTest, ::testing::ValuesIn(BadXmlCases()),
                          [](const ::testing::TestParamInfo<BadXmlCase>& info) {
                              return std::string(info.param.name);
                          });
+
+TEST_F(LangStringTest, DirectoriesInPlaceOfFilesAreIgnored)
+{
+    std::filesystem::create_directory(m_dir.File("Language.xml"));
+    std::filesystem::create_directory(m_dir.File("Lang_cn.xml"));
+    ReadLanguageChoice();
+    EXPECT_EQ(g_nLanguage, 1);
+    EXPECT_EQ(Lookup(L"Close"), L"Close");
+}
 
 TEST_F(LangStringTest, LoadedDictionaryIsNeverReread)
 {
