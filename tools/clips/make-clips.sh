@@ -7,13 +7,17 @@
 #                sensor noise everywhere
 # Every movement repeats exactly over the clip's length, so the last frame
 # leads into the first without a jump when the clip loops.
+# It also makes short.kvf, three small frames for the library's tests, which
+# have to loop through many clip ends quickly.
 #
-# Usage: tools/clips/make-clips.sh [output-dir]   (default: data/)
+# Usage: tools/clips/make-clips.sh [output-dir [test-clip-dir]]
+#        (defaults: data/ and tests/vexplay/data/)
 set -euo pipefail
 
 here=$(cd "$(dirname "$0")" && pwd)
 out=${1:-$here/../../data}
-mkdir -p "$out"
+testout=${2:-$here/../../tests/vexplay/data}
+mkdir -p "$out" "$testout"
 
 W=640
 H=360
@@ -62,15 +66,16 @@ up()    { printf "'H-mod(%d+(H+h)*%d*t/%d,H+h)'" "$1" "$2" "$T"; }
 
 # encode <name> <filtergraph ending in [v]> <crf> [extra x264 options...]
 encode() {
-  local name=$1 graph=$2 crf=$3
+  local name=$1 graph=$2 crf=$3 frames=$FRAMES dir=$out
   shift 3
+  if [ "$name" = short.kvf ]; then frames=3; dir=$testout; fi
   ffmpeg -hide_banner -loglevel error -y \
-    -filter_complex "$graph" -map '[v]' -frames:v "$FRAMES" -r "$FPS" \
+    -filter_complex "$graph" -map '[v]' -frames:v "$frames" -r "$FPS" \
     -c:v libx264 -preset slow -tune film -crf "$crf" -pix_fmt yuv420p \
     -g $((FPS * 2)) -keyint_min $((FPS * 2)) -sc_threshold 0 -threads 1 "$@" \
     -map_metadata -1 -fflags +bitexact -flags:v +bitexact \
-    -f matroska "$out/$name"
-  printf '%-12s %7d bytes\n' "$name" "$(stat -c %s "$out/$name")"
+    -f matroska "$dir/$name"
+  printf '%-12s %7d bytes\n' "$name" "$(stat -c %s "$dir/$name")"
 }
 
 # --- low: a parking lot ------------------------------------------------------
@@ -155,7 +160,7 @@ high() {
   # foliage and crowds: fine texture that never stands still
   bg="color=c=black:s=${W}x${H}:r=$FPS,format=yuv420p,geq="
   bg+="lum='100+40*sin(0.9*X+2.5*sin(0.07*Y+2*PI*T/$T))*cos(0.7*Y+2*PI*3*T/$T)+25*sin(0.31*(X+Y)-2*PI*2*T/$T)':"
-  bg+="cb='118+18*sin(0.09*X+2*PI*T/$T)':cr='122+14*cos(0.08*Y-2*PI*2*T/$T)'"
+  bg+="cb='108+12*sin(0.09*X+2*PI*T/$T)':cr='112+10*cos(0.08*Y-2*PI*2*T/$T)'"
   # two roads crossing, fine-grained asphalt
   bg+=",drawbox=x=0:y=112:w=$W:h=136:c=0x3c3e42:t=fill,drawbox=x=252:y=0:w=136:h=$H:c=0x3c3e42:t=fill"
   for i in $(seq 0 14); do
@@ -201,6 +206,12 @@ high() {
   encode 1high.kvf "$g" 28 -maxrate 900k -bufsize 1800k
 }
 
+# --- short: the tests' clip -------------------------------------------------
+short() {
+  encode short.kvf "testsrc2=s=160x90:r=$FPS[v]" 30
+}
+
 low
 medium
 high
+short

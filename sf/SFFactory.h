@@ -1,0 +1,57 @@
+#pragma once
+// Where application code gets its controls: each factory returns a new,
+// parentless control (null if it cannot be allocated); Create places it.
+
+class QWidget;
+
+class CSFButton;
+class CSFCheckBox;
+class CSFComboBox;
+class CSFDialog;
+class CSFEditCtrl;
+class CSFListCtrl;
+class CSFNumSpiner;
+class CSFPictureCtrl;
+class CSFRadioBox;
+class CSFStatic;
+class CSFView;
+class ISFButtonEvent;
+class ISFCheckBoxEvent;
+class ISFComboBoxEvent;
+class ISFDialogEvent;
+class ISFEditCtrlEvent;
+class ISFListCtrlEvent;
+class ISFNumSpinerEvent;
+class ISFPictureCtrlEvent;
+class ISFRadioBoxEvent;
+class ISFStaticEvent;
+class ISFViewEvent;
+
+CSFDialog* SFCreateDialog(ISFDialogEvent* handler, QWidget* parent, int flags);
+CSFDialog* SFCreateMainWindow(ISFDialogEvent* handler, QWidget* parent);
+CSFView* SFCreateView(ISFViewEvent* handler);
+CSFPictureCtrl* SFCreatePictureCtrl(ISFPictureCtrlEvent* handler);
+CSFButton* SFCreateButton(ISFButtonEvent* handler);
+CSFCheckBox* SFCreateCheckBox(ISFCheckBoxEvent* handler);
+CSFRadioBox* SFCreateRadioBox(ISFRadioBoxEvent* handler);
+CSFEditCtrl* SFCreateEditCtrl(ISFEditCtrlEvent* handler);
+CSFComboBox* SFCreateComboBox(ISFComboBoxEvent* handler);
+CSFStatic* SFCreateStatic(ISFStaticEvent* handler);
+CSFNumSpiner* SFCreateNumSpiner(ISFNumSpinerEvent* handler);
+CSFListCtrl* SFCreateListCtrl(ISFListCtrlEvent* handler);
+
+// Deletes the control and its Qt widget; null is ignored.
+void SFDestroyControl(CSFDialog* control);
+void SFDestroyControl(CSFView* control);
+void SFDestroyControl(CSFPictureCtrl* control);
+void SFDestroyControl(CSFButton* control);
+void SFDestroyControl(CSFCheckBox* control);
+void SFDestroyControl(CSFRadioBox* control);
+void SFDestroyControl(CSFEditCtrl* control);
+void SFDestroyControl(CSFComboBox* control);
+void SFDestroyControl(CSFStatic* control);
+void SFDestroyControl(CSFNumSpiner* control);
+void SFDestroyControl(CSFListCtrl* control);
+
+// A page's views go down with their Qt parent, so this does nothing.
+void SFDestroyView(CSFView* view);

@@ -1,0 +1,38 @@
+#pragma once
+// Abstract number spinner; CSFQTNumSpiner realises it.
+
+#include "ISFNumSpinerEvent.h"
+#include "ImageNumSpinerStyle.h"
+#include "WinTypes.h"
+
+class CSFNumSpiner {
+public:
+    explicit CSFNumSpiner(ISFNumSpinerEvent* handler = nullptr)
+        : m_pHandler(handler), m_nID(static_cast<unsigned int>(-1)) {}
+    CSFNumSpiner(const CSFNumSpiner&) = default;
+    CSFNumSpiner& operator=(const CSFNumSpiner&) = default;
+    virtual ~CSFNumSpiner() {}
+
+    // No style argument: the spinner is neither shown nor hidden by Create.
+    virtual int Create(const wchar_t* /*text*/, const tagRECT& /*rect*/, void* /*parent*/,
+                       unsigned int /*id*/) { return 0; }
+    virtual void SetRange(int /*min*/, int /*max*/) {}
+    virtual void GetRange(int& /*min*/, int& /*max*/) {}
+    virtual void SetStep(int /*step*/) {}
+    virtual int GetStep() { return 0; }
+    virtual void SetCurrentNum(int /*value*/) {}
+    virtual int GetCurrentNum() { return 0; }
+    virtual void StepUp() {}
+    virtual void StepDown() {}
+    virtual int SetSkin(ImageNumSpinerStyle* /*style*/) { return 0; }
+    virtual void ShowWindow(int /*show*/) {}
+    virtual void MoveWindow(tagRECT* /*rect*/) {}
+    virtual void MoveWindow(int /*x*/, int /*y*/, int /*w*/, int /*h*/) {}
+    virtual void EnableWindow(int /*enable*/) {}
+    virtual void SetCircleStep(int /*circle*/) {}
+    virtual void SetOriginStyle(int /*origin*/) {}
+
+protected:
+    ISFNumSpinerEvent* m_pHandler;
+    unsigned int m_nID;
+};

@@ -1,0 +1,47 @@
+#pragma once
+// Abstract view, the container of a page; CSFQTView realises it.
+
+#include "ISFViewEvent.h"
+#include "SFControlTypes.h"
+#include "WinTypes.h"
+
+class CSFView {
+public:
+    explicit CSFView(ISFViewEvent* handler = nullptr);
+    CSFView(const CSFView&) = default;
+    CSFView& operator=(const CSFView&) = default;
+    virtual ~CSFView() {}
+
+    virtual int Create(const wchar_t* /*className*/, const wchar_t* /*title*/,
+                       unsigned long /*style*/, const tagRECT& /*rect*/, void* /*parent*/,
+                       unsigned int /*id*/) { return 0; }
+    virtual void ShowWindow(int /*show*/) {}
+    virtual void SetBackground(const wchar_t* /*image*/) {}
+    virtual void MoveWindow(tagRECT* /*rect*/) {}
+    virtual void MoveWindow(int /*x*/, int /*y*/, int /*w*/, int /*h*/) {}
+    virtual void GetViewClientRect(tagRECT* /*rect*/) {}
+    virtual void GetViewWindowRect(tagRECT* /*rect*/) {}
+    virtual void Screen2Client(tagPOINT* /*pt*/) {}
+    virtual void Screen2Client(tagRECT* /*rect*/) {}
+    virtual int isShow() { return 0; }
+    virtual int isWindow() { return 0; }
+    virtual int SubclassWindow() { return 0; }
+    virtual void* UnsubclassWindow() { return nullptr; }
+    virtual void SetRoundCornerRadius(unsigned int /*radius*/) {}
+    virtual void SetBGClr(unsigned int /*color*/) {}
+    virtual void SetParentWindow(void* /*parent*/, WINDOW_TYPE /*type*/) {}
+    virtual void SetFrameClr(unsigned int /*color*/, int /*enable*/) {}
+
+    void* GetUIWnd() const { return m_pHandler ? m_pHandler->GetUIWnd() : nullptr; }
+
+protected:
+    ISFViewEvent* m_pHandler;
+    unsigned int m_nID;
+};
+
+inline CSFView::CSFView(ISFViewEvent* handler)
+    : m_pHandler(handler), m_nID(static_cast<unsigned int>(-1))
+{
+    if (m_pHandler)
+        m_pHandler->ResetMessageIDs();
+}

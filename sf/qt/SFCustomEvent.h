@@ -1,0 +1,20 @@
+#pragma once
+// The event a control sends to its parent window for the message map.
+
+#include "SFMessageMap.h"
+
+#include <QEvent>
+
+class CSFCustomEvent : public QEvent {
+public:
+    CSFCustomEvent(unsigned int message, unsigned int code, SF_WPARAM wParam, SF_LPARAM lParam);
+    ~CSFCustomEvent() override;
+
+    // Registered once, during static initialisation.
+    static QEvent::Type EventType();
+
+    unsigned int message;
+    unsigned int code;
+    SF_WPARAM wParam;
+    SF_LPARAM lParam;
+};

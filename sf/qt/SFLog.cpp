@@ -1,0 +1,3 @@
+#include "SFLog.h"
+
+Q_LOGGING_CATEGORY(lcSf, "tallix.sf", QtWarningMsg)

@@ -1,0 +1,139 @@
+#include "SFQTDialog.h"
+
+#include "SFCustomEvent.h"
+#include "SFEventDispatch.h"
+#include "SFQtConvert.h"
+
+#include <QPointer>
+
+CSFQTDialog::CSFQTDialog(ISFDialogEvent* handler, QWidget* parent)
+    : CSFQTSkinWindow<QDialog>(handler, parent, false)
+{
+    setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint | Qt::WindowSystemMenuHint);
+    SFNameControl(this, "dialog", static_cast<unsigned int>(-1), QString());
+    // Queued, so a caption button acts after its mouse event has returned.
+    connect(this, &CSFQTDialog::sgnClose, this, &QWidget::close, Qt::QueuedConnection);
+    connect(this, &CSFQTDialog::sgnMaximized, this, &QWidget::showMaximized, Qt::QueuedConnection);
+    connect(this, &CSFQTDialog::sgnMinimized, this, &QWidget::showMinimized, Qt::QueuedConnection);
+    connect(this, &CSFQTDialog::sgnNormal, this, &QWidget::showNormal, Qt::QueuedConnection);
+}
+
+CSFQTDialog::~CSFQTDialog()
+{
+}
+
+int CSFQTDialog::DoModalDlg()
+{
+    setWindowModality(Qt::ApplicationModal);
+    setModal(true);
+    if (Handler())
+        Handler()->Dlg_OnInitDialog(false);
+    setFocus();
+    const int result = exec();
+    return result == QDialog::Rejected ? 2 : result;
+}
+
+void CSFQTDialog::MFCOK()
+{
+    accept();
+}
+
+void CSFQTDialog::MFCCancel()
+{
+    reject();
+}
+
+void CSFQTDialog::SendDlgMessage(unsigned int msg, unsigned int, long)
+{
+    if (msg == 16)
+        reject();
+}
+
+int CSFQTDialog::IsDlgZoomed()
+{
+    return 1;
+}
+
+int CSFQTDialog::ModifyDlgStyleEx(unsigned long remove, unsigned long add, unsigned int)
+{
+    const bool wasVisible = isVisible();
+    const Qt::WindowFlags flags =
+        (windowFlags() & ~Qt::WindowFlags::fromInt(static_cast<int>(remove)))
+        | Qt::WindowFlags::fromInt(static_cast<int>(add));
+    setWindowFlags(flags);
+    if (wasVisible)
+        show();
+    return 1;
+}
+
+void CSFQTDialog::MacShowMaximize(bool maximize)
+{
+    if (maximize)
+        showMaximized();
+    else
+        showNormal();
+}
+
+bool CSFQTDialog::eventFilter(QObject*, QEvent*)
+{
+    return true;
+}
+
+void CSFQTDialog::OnSwitchSize()
+{
+}
+
+void CSFQTDialog::accept()
+{
+    if (Handler())
+        Handler()->Dlg_OnOK();
+    QDialog::accept();
+}
+
+void CSFQTDialog::reject()
+{
+    if (Handler())
+        Handler()->Dlg_OnCancel();
+    QDialog::reject();
+}
+
+void CSFQTDialog::customEvent(QEvent* e)
+{
+    if (!SFIsCustomEvent(e)) {
+        QDialog::customEvent(e);
+        return;
+    }
+    // A mapped member may destroy the window.
+    const QPointer<QObject> alive(this);
+    DispatchCustomEvent(e);
+    if (!alive || !Handler())
+        return;
+    // Ids 1 and 2 are OK and Cancel on every dialog, whatever the map did.
+    const CSFCustomEvent* ev = static_cast<const CSFCustomEvent*>(e);
+    if (ev->message == SF_MSG_COMMAND && ev->code == 0) {
+        if (ev->lParam == 1)
+            accept();
+        else if (ev->lParam == 2)
+            reject();
+    }
+}
+
+void CSFQTDialog::EmitClose()
+{
+    emit sgnClose();
+}
+
+void CSFQTDialog::EmitMaximized()
+{
+    emit sgnMaximized();
+}
+
+void CSFQTDialog::EmitMinimized()
+{
+    emit sgnMinimized();
+}
+
+void CSFQTDialog::EmitNormal()
+{
+    emit sgnNormal();
+}

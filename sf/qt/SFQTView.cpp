@@ -1,0 +1,205 @@
+#include "SFQTView.h"
+
+#include "SFApplication.h"
+#include "SFCustomEvent.h"
+#include "SFEventDispatch.h"
+#include "SFFrameSkin.h"
+#include "SFQtConvert.h"
+#include "SFSkinParse.h"
+
+#include <QMouseEvent>
+#include <algorithm>
+#include <QPainter>
+#include <QResizeEvent>
+
+CSFQTView::CSFQTView(ISFViewEvent* handler, QWidget* parent)
+    : QWidget(parent), CSFView(handler), m_bgColor(92, 101, 118), m_frameEnabled(0),
+      m_frameColor(128, 128, 128), m_cornerRadius(0)
+{
+    setMouseTracking(true);
+    setFocusPolicy(Qt::StrongFocus);
+    if (m_pHandler)
+        m_pHandler->m_pUIWnd = SFHandleFromWidget(this);
+}
+
+CSFQTView::~CSFQTView()
+{
+    if (m_pHandler) {
+        m_pHandler->OnDestroy();
+        if (m_pHandler->m_pUIWnd == SFHandleFromWidget(this))
+            m_pHandler->m_pUIWnd = nullptr;
+    }
+    m_pHandler = nullptr;
+}
+
+int CSFQTView::Create(const wchar_t*, const wchar_t* title, unsigned long style,
+                      const tagRECT& rect, void* parent, unsigned int id)
+{
+    setParent(SFWidgetFromHandle(parent));
+    const QString text = SFToQString(title);
+    setWindowTitle(text);
+    setGeometry(SFRectInclusive(rect));
+    m_nID = id;
+    SFNameControl(this, "view", id, text);
+    SFApplyVisibleStyle(this, style);
+    if (m_pHandler)
+        m_pHandler->OnCreate();
+    return 1;
+}
+
+void CSFQTView::ShowWindow(int show)
+{
+    setVisible(show != 0);
+}
+
+void CSFQTView::SetBackground(const wchar_t* image)
+{
+    m_bgImage = QPixmap();
+    if (image && *image)
+        m_bgImage.load(SFSkinFilePath(image));
+}
+
+void CSFQTView::MoveWindow(tagRECT* rect)
+{
+    if (rect)
+        MoveWindow(rect->left, rect->top, rect->right - rect->left + 1,
+                   rect->bottom - rect->top + 1);
+}
+
+void CSFQTView::MoveWindow(int x, int y, int w, int h)
+{
+    setGeometry(SFRectFromXYWH(x, y, w, h));
+}
+
+void CSFQTView::GetViewClientRect(tagRECT* rect)
+{
+    if (rect)
+        *rect = tagRECT{ 0, 0, width(), height() };
+}
+
+void CSFQTView::GetViewWindowRect(tagRECT* rect)
+{
+    if (rect)
+        *rect = SFToTagRectExclusive(QRect(mapToGlobal(QPoint(0, 0)), size()));
+}
+
+void CSFQTView::Screen2Client(tagPOINT* pt)
+{
+    if (!pt)
+        return;
+    const QPoint p = mapFromGlobal(QPoint(pt->x, pt->y));
+    pt->x = p.x();
+    pt->y = p.y();
+}
+
+void CSFQTView::Screen2Client(tagRECT* rect)
+{
+    if (!rect)
+        return;
+    const QPoint tl = mapFromGlobal(QPoint(rect->left, rect->top));
+    const QPoint br = mapFromGlobal(QPoint(rect->right, rect->bottom));
+    *rect = tagRECT{ tl.x(), tl.y(), br.x(), br.y() };
+}
+
+int CSFQTView::isShow()
+{
+    return isVisible() ? 1 : 0;
+}
+
+int CSFQTView::isWindow()
+{
+    return 1;
+}
+
+int CSFQTView::SubclassWindow()
+{
+    return 1;
+}
+
+void* CSFQTView::UnsubclassWindow()
+{
+    return nullptr;
+}
+
+void CSFQTView::SetRoundCornerRadius(unsigned int radius)
+{
+    m_cornerRadius = radius;
+}
+
+void CSFQTView::SetBGClr(unsigned int color)
+{
+    m_bgColor = QColor(static_cast<int>(color & 0xFFu), static_cast<int>((color >> 8) & 0xFFu),
+                       static_cast<int>((color >> 16) & 0xFFu),
+                       static_cast<int>(~(color >> 24) & 0xFFu));
+    update();
+}
+
+void CSFQTView::SetParentWindow(void*, WINDOW_TYPE)
+{
+}
+
+void CSFQTView::SetFrameClr(unsigned int color, int enable)
+{
+    m_frameColor = SFColorFromRef(color);
+    m_frameEnabled = enable;
+    update();
+}
+
+void CSFQTView::paintEvent(QPaintEvent* e)
+{
+    {
+        QPainter painter(this);
+        if (m_bgImage.isNull())
+            painter.fillRect(rect(), m_bgColor);
+        else
+            painter.drawPixmap(rect(), m_bgImage);
+        if (m_frameEnabled) {
+            painter.setPen(m_frameColor);
+            painter.setBrush(Qt::NoBrush);
+            painter.drawRect(rect().adjusted(0, 0, -1, -1));
+        }
+    }
+    QWidget::paintEvent(e);
+}
+
+void CSFQTView::resizeEvent(QResizeEvent* e)
+{
+    if (m_pHandler)
+        m_pHandler->OnSize(0, width(), height());
+    if (m_cornerRadius != 0) {
+        const int r = static_cast<int>(std::min(m_cornerRadius, 0x7FFFu));
+        setMask(CSFFrameSkin::RoundMask(size(), r, r));
+    }
+    QWidget::resizeEvent(e);
+}
+
+void CSFQTView::mousePressEvent(QMouseEvent* e)
+{
+    if (e->button() == Qt::LeftButton && m_pHandler) {
+        const QPoint p = e->position().toPoint();
+        m_pHandler->OnLButtonDown(0, tagPOINT{ p.x(), p.y() });
+    }
+    QWidget::mousePressEvent(e);
+}
+
+void CSFQTView::mouseDoubleClickEvent(QMouseEvent* e)
+{
+    if (e->button() != Qt::LeftButton) {
+        QWidget::mouseDoubleClickEvent(e);
+        return;
+    }
+    if (m_pHandler) {
+        const QPoint p = e->position().toPoint();
+        m_pHandler->OnLButtonDblClk(0, tagPOINT{ p.x(), p.y() });
+    }
+}
+
+void CSFQTView::customEvent(QEvent* e)
+{
+    if (!SFIsCustomEvent(e)) {
+        QWidget::customEvent(e);
+        return;
+    }
+    if (m_pHandler)
+        SFDispatchMessageMap(m_pHandler, *static_cast<CSFCustomEvent*>(e));
+}

@@ -1,0 +1,329 @@
+// Both roads of a click, the OK and Cancel ids of dialogs, modal runs, keys,
+// timers, UI messages and the order of destruction.
+
+#include "SfTestSupport.h"
+
+#include "SFCustomEvent.h"
+#include "SFFactory.h"
+#include "SFKeyMap.h"
+#include "SFPictureCtrl.h"
+#include "SFQTDialog.h"
+#include "SFQTMainWindow.h"
+#include "SFQTView.h"
+#include "SFView.h"
+
+#include <QApplication>
+#include <QPointer>
+#include <QTest>
+#include <QTimer>
+#include <gtest/gtest.h>
+#include <memory>
+
+namespace {
+
+const tagRECT kButtonRect{ 10, 40, 90, 70 };
+
+CTestCommandButton* AddButton(ISFButtonEvent* handler, void* parent, unsigned int id)
+{
+    auto* button = new CTestCommandButton(handler);
+    button->Create(L"Press", SF_WS_VISIBLE, kButtonRect, parent, id);
+    return button;
+}
+
+std::unique_ptr<CSFQTDialog> ShownDialog(CLoggingDialogHandler* handler)
+{
+    auto dlg = std::make_unique<CSFQTDialog>(handler);
+    dlg->MoveWindow(100, 100, 200, 120);
+    dlg->show();
+    return dlg;
+}
+
+TEST(WindowConstruction, FlagsAttributesAndHandlerLink)
+{
+    CLoggingDialogHandler handler;
+    CSFQTDialog dlg(&handler);
+    EXPECT_EQ(dlg.windowFlags().toInt(), 0x2803);
+    EXPECT_EQ(handler.GetUIWnd(), SFHandleFromWidget(&dlg));
+    EXPECT_TRUE(dlg.acceptDrops());
+    EXPECT_TRUE(dlg.hasMouseTracking());
+    EXPECT_EQ(dlg.focusPolicy(), Qt::StrongFocus);
+
+    CLoggingDialogHandler mainHandler;
+    CSFQTMainWindow window(&mainHandler);
+    // Qt adds the window type bit to a parentless widget.
+    EXPECT_EQ(window.windowFlags().toInt() & ~int(Qt::Window), 0xE800);
+    EXPECT_EQ(mainHandler.GetUIWnd(), SFHandleFromWidget(&window));
+    EXPECT_EQ(window.IsDlgZoomed(), 0);
+    EXPECT_EQ(dlg.IsDlgZoomed(), 1);
+}
+
+TEST(ClickRoads, DirectCallFirstThenTheViewsMap)
+{
+    Log log;
+    CLoggingViewHandler viewHandler(log);
+    CLoggingButtonHandler buttonHandler(log);
+    QWidget top;
+    CSFView* view = SFCreateView(&viewHandler);
+    view->Create(L"", L"", SF_WS_VISIBLE, tagRECT{ 0, 0, 199, 99 }, &top, 3);
+    CTestCommandButton* button = AddButton(&buttonHandler, view->GetUIWnd(), 7);
+    top.show();
+    QTest::mouseClick(button, Qt::LeftButton);
+    EXPECT_EQ(log, (Log{ "view:create", "btn:7", "view:7" }));
+
+    // No parent: the direct call still comes, the map hears nothing.
+    log.clear();
+    CTestCommandButton orphan(&buttonHandler);
+    orphan.Create(L"Orphan", SF_WS_VISIBLE, kButtonRect, nullptr, 7);
+    QTest::mouseClick(&orphan, Qt::LeftButton);
+    EXPECT_EQ(log, (Log{ "btn:7" }));
+    SFDestroyControl(view);
+    EXPECT_EQ(log.back(), "view:destroy");
+}
+
+TEST(ViewFacade, GeometryVisibilityColourAndMouse)
+{
+    Log log;
+    CLoggingViewHandler handler(log);
+    QWidget top;
+    top.resize(400, 300);
+    top.show();
+    auto* view = static_cast<CSFQTView*>(SFCreateView(&handler));
+    // A view takes its rectangle as it stands.
+    view->Create(L"", L"Page", 0, tagRECT{ 0, 0, 199, 99 }, &top, 3);
+    EXPECT_EQ(view->size(), QSize(200, 100));
+    EXPECT_EQ(view->objectName(), QStringLiteral("view_3"));
+    EXPECT_FALSE(view->isVisible());
+    view->ShowWindow(1);
+    EXPECT_TRUE(view->isVisible());
+    tagRECT moved{ 10, 10, 110, 40 };
+    view->MoveWindow(&moved);
+    EXPECT_EQ(view->size(), QSize(101, 31));
+    view->SetBGClr(0);
+    EXPECT_EQ(view->BackgroundColor(), QColor(0, 0, 0, 255));
+    view->SetBGClr(0xFF000000u);
+    EXPECT_EQ(view->BackgroundColor().alpha(), 0);
+    QTest::mouseClick(view, Qt::LeftButton, Qt::NoModifier, QPoint(5, 6));
+    EXPECT_EQ(log.back(), "view:down 5,6");
+    SFDestroyControl(static_cast<CSFView*>(view));
+}
+
+TEST(DialogIds, IdOneRunsTheMapThenOkThenAccepts)
+{
+    CLoggingDialogHandler handler;
+    auto dlg = ShownDialog(&handler);
+    CTestCommandButton* ok = AddButton(&handler, handler.GetUIWnd(), 1);
+    ok->show();
+    handler.log.clear();
+    QTest::mouseClick(ok, Qt::LeftButton);
+    EXPECT_EQ(handler.log, (Log{ "btn:1", "mapped:1", "ok" }));
+    EXPECT_EQ(dlg->result(), QDialog::Accepted);
+    EXPECT_FALSE(dlg->isVisible());
+}
+
+TEST(DialogIds, IdTwoRejectsWithNothingMapped)
+{
+    CLoggingDialogHandler handler;
+    auto dlg = ShownDialog(&handler);
+    dlg->setResult(QDialog::Accepted);
+    CTestCommandButton* cancel = AddButton(nullptr, handler.GetUIWnd(), 2);
+    cancel->show();
+    handler.log.clear();
+    QTest::mouseClick(cancel, Qt::LeftButton);
+    EXPECT_EQ(handler.log, (Log{ "cancel" }));
+    EXPECT_EQ(dlg->result(), QDialog::Rejected);
+    EXPECT_FALSE(dlg->isVisible());
+}
+
+TEST(DialogIds, WindowWithoutHandlerSwallowsTheCommand)
+{
+    CSFQTDialog dlg(nullptr);
+    dlg.show();
+    CSFCustomEvent e(SF_MSG_COMMAND, 0, 0, 1);
+    QCoreApplication::sendEvent(&dlg, &e);
+    EXPECT_TRUE(dlg.isVisible());
+    EXPECT_NE(dlg.result(), QDialog::Accepted);
+}
+
+TEST(UIMessages, SentAtOnceAndPostedLater)
+{
+    CLoggingDialogHandler handler;
+    CSFQTMainWindow window(&handler);
+    SFSendUIMessage(handler.GetUIWnd(), 5, 42);
+    EXPECT_EQ(handler.log, (Log{ "ui:42/5" }));
+    SFPostUIMessage(handler.GetUIWnd(), 5, 43);
+    EXPECT_EQ(handler.log.size(), 1u);
+    QTRY_COMPARE(handler.log.size(), std::size_t(2));
+    EXPECT_EQ(handler.log.back(), "ui:43/5");
+    SFSendUIMessage(handler.GetUIWnd(), 6, 1); // not mapped
+    SFSendUIMessage(nullptr, 5, 1);
+    SFPostUIMessage(nullptr, 5, 1);
+    EXPECT_EQ(handler.log.size(), 2u);
+}
+
+TEST(ModalRun, OkButtonGivesOne)
+{
+    CLoggingDialogHandler handler;
+    CSFDialog* dlg = SFCreateDialog(&handler, nullptr, 0);
+    handler.onInit = [&] { AddButton(&handler, handler.GetUIWnd(), 1); };
+    dlg->Create(L"", nullptr);
+    dlg->MoveWindow(0, 0, 200, 120);
+    dlg->CenterWindow(nullptr);
+    bool sawModal = false;
+    QTimer::singleShot(0, [&] {
+        QWidget* modal = QApplication::activeModalWidget();
+        sawModal = modal == SFWidgetFromHandle(handler.GetUIWnd());
+        if (auto* button = modal ? modal->findChild<QPushButton*>(QStringLiteral("button_1")) : nullptr)
+            QTest::mouseClick(button, Qt::LeftButton);
+    });
+    EXPECT_EQ(dlg->DoModalDlg(), 1);
+    EXPECT_TRUE(sawModal);
+    EXPECT_EQ(handler.log, (Log{ "init:create", "init:modal", "btn:1", "mapped:1", "ok" }));
+    SFDestroyControl(dlg);
+}
+
+TEST(ModalRun, ClosingGivesTwoAndEscapeAloneDoesNotClose)
+{
+    CLoggingDialogHandler handler;
+    CSFDialog* dlg = SFCreateDialog(&handler, nullptr, 0);
+    dlg->Create(L"", nullptr);
+    dlg->MoveWindow(0, 0, 200, 120);
+    bool stillOpenAfterEscape = false;
+    QTimer::singleShot(0, [&] {
+        QWidget* modal = QApplication::activeModalWidget();
+        if (!modal)
+            return;
+        QTest::keyClick(modal, Qt::Key_Escape);
+        stillOpenAfterEscape = modal->isVisible();
+        QTimer::singleShot(0, modal, [modal] { modal->close(); });
+    });
+    EXPECT_EQ(dlg->DoModalDlg(), 2);
+    EXPECT_TRUE(stillOpenAfterEscape);
+    ASSERT_FALSE(handler.keysDown.empty());
+    EXPECT_EQ(handler.keysDown.front(), std::make_pair(0u, 27u));
+    SFDestroyControl(dlg);
+
+    CLoggingDialogHandler mainHandler;
+    CSFDialog* main = SFCreateMainWindow(&mainHandler, nullptr);
+    EXPECT_EQ(main->DoModalDlg(), -1);
+    SFDestroyControl(main);
+}
+
+TEST(CloseEvent, DlgCloseOfOneKeepsTheWindowOpen)
+{
+    CLoggingDialogHandler handler;
+    auto dlg = ShownDialog(&handler);
+    handler.closeResult = 1;
+    EXPECT_FALSE(dlg->close());
+    EXPECT_TRUE(dlg->isVisible());
+    handler.closeResult = 0;
+    EXPECT_TRUE(dlg->close());
+}
+
+TEST(CloseEvent, HiddenMainWindowClosedByMessageEndsTheLoop)
+{
+    CLoggingDialogHandler handler;
+    CSFQTMainWindow window(&handler);
+    window.MoveWindow(0, 0, 300, 200);
+    window.ShowWindow(1);
+    QTimer::singleShot(0, &window, [&window] {
+        window.ShowWindow(0);
+        window.SendDlgMessage(16, 0, 0);
+    });
+    bool watchdog = false;
+    QTimer guard;
+    guard.setSingleShot(true);
+    QObject::connect(&guard, &QTimer::timeout, [&watchdog] {
+        watchdog = true;
+        QCoreApplication::quit();
+    });
+    guard.start(5000);
+    QApplication::exec();
+    EXPECT_FALSE(watchdog);
+    EXPECT_EQ(handler.log, (Log{ "cancel" }));
+    EXPECT_EQ(handler.GetUIWnd(), nullptr) << "reject clears the window pointer";
+}
+
+struct KeyCase {
+    int qtKey;
+    unsigned int dialog;
+    unsigned int mainWindow;
+};
+
+class KeyTable : public testing::TestWithParam<KeyCase> {
+};
+
+TEST_P(KeyTable, TranslatesLikeTheWindowsKeys)
+{
+    EXPECT_EQ(SFMapDialogKey(GetParam().qtKey), GetParam().dialog);
+    EXPECT_EQ(SFMapMainWindowKey(GetParam().qtKey), GetParam().mainWindow);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Keys, KeyTable,
+    testing::Values(KeyCase{ Qt::Key_Escape, 27, 27 }, KeyCase{ Qt::Key_Space, 32, 32 },
+                    KeyCase{ Qt::Key_Left, 37, 37 }, KeyCase{ Qt::Key_Right, 39, 39 },
+                    KeyCase{ Qt::Key_F1, 112, 112 },
+                    KeyCase{ Qt::Key_Return, 13, unsigned(Qt::Key_Return) },
+                    KeyCase{ Qt::Key_F4, 0, 115 }, KeyCase{ Qt::Key_A, 0, unsigned(Qt::Key_A) },
+                    KeyCase{ Qt::Key_Enter, 0, unsigned(Qt::Key_Enter) }));
+
+TEST(KeyModifiers, CtrlReplacesShiftAndAltIsOred)
+{
+    EXPECT_EQ(SFMapKeyModifiers(Qt::NoModifier), 0u);
+    EXPECT_EQ(SFMapKeyModifiers(Qt::ShiftModifier), 16u);
+    EXPECT_EQ(SFMapKeyModifiers(Qt::ControlModifier), 17u);
+    EXPECT_EQ(SFMapKeyModifiers(Qt::ShiftModifier | Qt::ControlModifier), 17u);
+    EXPECT_EQ(SFMapKeyModifiers(Qt::AltModifier), 18u);
+    EXPECT_EQ(SFMapKeyModifiers(Qt::ShiftModifier | Qt::AltModifier), 18u);
+    EXPECT_EQ(SFMapKeyModifiers(Qt::ControlModifier | Qt::AltModifier), 19u);
+}
+
+TEST(KeyModifiers, MainWindowReportsDownAndUp)
+{
+    CLoggingDialogHandler handler;
+    CSFQTMainWindow window(&handler);
+    window.MoveWindow(0, 0, 200, 120);
+    window.show();
+    // QTest presses Ctrl and Alt first: their own key events come too.
+    QTest::keyClick(&window, Qt::Key_F4, Qt::ControlModifier | Qt::AltModifier);
+    ASSERT_EQ(handler.keysDown.size(), 3u);
+    EXPECT_EQ(handler.keysDown[2], std::make_pair(19u, 115u));
+    ASSERT_FALSE(handler.keysUp.empty());
+    EXPECT_EQ(handler.keysUp.front(), std::make_pair(19u, 115u));
+}
+
+TEST(DialogTimers, SecondSetKeepsTheFirstInterval)
+{
+    CLoggingDialogHandler handler;
+    CSFQTDialog dlg(&handler);
+    const unsigned int first = dlg.SetDlgTimer(5, 20);
+    ASSERT_NE(first, 0u);
+    EXPECT_EQ(dlg.SetDlgTimer(5, 100000), first);
+    QTRY_VERIFY_WITH_TIMEOUT(!handler.timers.empty(), 3000);
+    EXPECT_EQ(handler.timers.front(), 5u);
+    EXPECT_EQ(dlg.KillDlgTimer(5), 1);
+    EXPECT_EQ(dlg.KillDlgTimer(5), 0);
+    EXPECT_EQ(dlg.KillDlgTimer(99), 0);
+}
+
+TEST(Destruction, HandlerSeesClearedWindowWhileControlsStillExist)
+{
+    CLoggingDialogHandler handler;
+    CSFDialog* dlg = SFCreateDialog(&handler, nullptr, 0);
+    CSFPictureCtrl* picture = SFCreatePictureCtrl(nullptr);
+    picture->Create(L"logo", SF_WS_VISIBLE, kButtonRect, handler.GetUIWnd(), 4);
+    QPointer<QObject> pictureWidget(static_cast<QWidget*>(picture->GetHWnd()));
+    bool pictureAliveInDestroy = false;
+    handler.onDestroy = [&] {
+        pictureAliveInDestroy = !pictureWidget.isNull();
+        SFDestroyControl(picture);
+        picture = nullptr;
+    };
+    SFDestroyControl(dlg);
+    EXPECT_TRUE(pictureAliveInDestroy);
+    EXPECT_TRUE(pictureWidget.isNull());
+    EXPECT_EQ(handler.log.back(), "destroy:window-cleared");
+    EXPECT_EQ(handler.GetUIWnd(), nullptr);
+}
+
+} // namespace

@@ -1,0 +1,201 @@
+// Message map search, the declaration helpers and the handler-side dispatch.
+
+#include "ISFButtonEvent.h"
+#include "ISFDialogEvent.h"
+#include "SFMessageMap.h"
+
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+namespace {
+
+// Search on a raw table: the end entry stops it, ranges are inclusive and
+// unsigned, and the first match in table order wins.
+const SF_MSGMAP_ENTRY kTable[] = {
+    { SF_MSG_COMMAND, 0, 10, 20, SF_SIG_VOID, 0, nullptr },                 // 0
+    { SF_MSG_COMMAND, 0, 15, 30, SF_SIG_VOID, 0, nullptr },                 // 1 overlaps 0
+    { SF_MSG_NOTIFY, 2, 10, 10, SF_SIG_NOTIFY, 0, nullptr },                // 2
+    { SF_MSG_UI, SF_MSG_UI, 0x40000000u, 0x4000FFFFu, SF_SIG_UIMSG, 0, nullptr }, // 3
+    { SF_MSG_COMMAND, 0, 0xFFFFFFF0u, 0xFFFFFFFFu, SF_SIG_VOID, 0, nullptr }, // 4
+    { 0, 0, 0, 0, SF_SIG_END, 0, nullptr },
+    { SF_MSG_COMMAND, 0, 100, 100, SF_SIG_VOID, 0, nullptr },               // past the end
+};
+
+struct SearchCase {
+    unsigned int message;
+    unsigned int code;
+    unsigned int id;
+    int expected; // index into kTable, -1 for none
+};
+
+class MapSearch : public testing::TestWithParam<SearchCase> {
+};
+
+TEST_P(MapSearch, FindsFirstMatchingEntry)
+{
+    const SearchCase c = GetParam();
+    const SF_MSGMAP_ENTRY* found = SFFindMessageEntry(kTable, c.message, c.code, c.id);
+    if (c.expected < 0)
+        EXPECT_EQ(found, nullptr);
+    else
+        EXPECT_EQ(found, &kTable[c.expected]);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, MapSearch,
+    testing::Values(SearchCase{ SF_MSG_COMMAND, 0, 10, 0 }, SearchCase{ SF_MSG_COMMAND, 0, 20, 0 },
+                    SearchCase{ SF_MSG_COMMAND, 0, 9, -1 },
+                    SearchCase{ SF_MSG_COMMAND, 0, 17, 0 },  // overlap: table order
+                    SearchCase{ SF_MSG_COMMAND, 0, 21, 1 }, SearchCase{ SF_MSG_COMMAND, 0, 31, -1 },
+                    SearchCase{ SF_MSG_COMMAND, 1, 12, -1 }, // code must match
+                    SearchCase{ SF_MSG_NOTIFY, 2, 10, 2 }, SearchCase{ SF_MSG_NOTIFY, 3, 10, -1 },
+                    SearchCase{ SF_MSG_UI, SF_MSG_UI, 0x40000005u, 3 },
+                    SearchCase{ SF_MSG_UI, SF_MSG_UI, 0x3FFFFFFFu, -1 },
+                    SearchCase{ SF_MSG_COMMAND, 0, 0xFFFFFFFFu, 4 },
+                    SearchCase{ SF_MSG_COMMAND, 0, 100, -1 })); // after the end entry
+
+TEST(MapSearchEdges, EmptyAndNullTablesHoldNothing)
+{
+    const SF_MSGMAP_ENTRY onlyEnd[] = { { 0, 0, 0, 0, SF_SIG_END, 0, nullptr } };
+    for (unsigned int message : { 0u, SF_MSG_NOTIFY, SF_MSG_COMMAND, SF_MSG_UI })
+        EXPECT_EQ(SFFindMessageEntry(onlyEnd, message, 0, 0), nullptr);
+    EXPECT_EQ(SFFindMessageEntry(static_cast<const SF_MSGMAP_ENTRY*>(nullptr), SF_MSG_COMMAND, 0, 1),
+              nullptr);
+    EXPECT_EQ(SFFindMessageEntry(static_cast<const SF_MSGMAP*>(nullptr), SF_MSG_COMMAND, 0, 1),
+              nullptr);
+}
+
+// A handler whose window interface is not its first base, so reaching it from
+// the CSFEventBase subobject needs a pointer adjustment.
+struct Payload {
+    virtual ~Payload() {}
+    std::string name = "multi";
+    std::vector<std::string> log;
+};
+
+class CMultiHandler : public ISFButtonEvent, public Payload, public ISFDialogEvent {
+    SF_DECLARE_MSGMAP()
+public:
+    int Dlg_OnInitDialog(bool) override { return 1; }
+
+    void OnApply() { log.push_back(name + ":apply"); }
+    void OnRange() { log.push_back(name + ":range"); }
+    void OnRow(tagNMHDR* hdr, long* result)
+    {
+        log.push_back(name + ":row" + std::to_string(hdr ? hdr->code : 0u));
+        if (result)
+            *result = 42;
+    }
+    void OnUi(unsigned int wParam, long id)
+    {
+        log.push_back(name + ":ui" + std::to_string(wParam) + "/" + std::to_string(id));
+    }
+    void OnVoidNotify() { log.push_back(name + ":voidnotify"); }
+};
+
+SF_BEGIN_MSGMAP(CMultiHandler)
+    SF_ON_COMMAND(3, OnApply)
+    SF_ON_COMMAND_RANGE(10, 20, OnRange)
+    SF_ON_NOTIFY(2, 7, OnRow)
+    SF_MAP_ENTRY(SF_MSG_NOTIFY, 9, 7, 7, SF_SIG_VOID, OnVoidNotify)
+    SF_ON_UIMSG(5, OnUi)
+    SF_ON_UIMSG(1, OnUi)
+    SF_MAP_ENTRY(SF_MSG_UI, SF_MSG_UI, 8, 8, SF_SIG_VOID, OnApply)
+    SF_MAP_ENTRY(SF_MSG_COMMAND, 0, 4, 4, SF_SIG_UIMSG, OnUi)
+SF_END_MSGMAP()
+
+class CPlainHandler : public ISFDialogEvent {
+    SF_DECLARE_MSGMAP()
+public:
+    int Dlg_OnInitDialog(bool) override { return 1; }
+    void OnApply() {}
+};
+
+SF_BEGIN_MSGMAP(CPlainHandler)
+    SF_ON_COMMAND(3, OnApply)
+SF_END_MSGMAP()
+
+class CEmptyHandler : public ISFDialogEvent {
+    SF_DECLARE_MSGMAP()
+public:
+    int Dlg_OnInitDialog(bool) override { return 1; }
+};
+
+SF_BEGIN_MSGMAP(CEmptyHandler)
+SF_END_MSGMAP()
+
+TEST(MessageMapDeclaration, EntriesReadAsTheTableWasWritten)
+{
+    CMultiHandler h;
+    const SF_MSGMAP* map = h.GetSFMessageMap();
+    ASSERT_NE(map, nullptr);
+    EXPECT_EQ(map, h.GetSFMessageMap()) << "one static table per class";
+    const SF_MSGMAP_ENTRY* e = map->lpEntries;
+    EXPECT_EQ(e[0].nMessage, 273u);
+    EXPECT_EQ(e[0].nCode, 0u);
+    EXPECT_EQ(e[0].nID, 3u);
+    EXPECT_EQ(e[0].nLastID, 3u);
+    EXPECT_EQ(e[0].nSig, 1u);
+    EXPECT_EQ(e[1].nID, 10u);
+    EXPECT_EQ(e[1].nLastID, 20u);
+    EXPECT_EQ(e[2].nMessage, 78u);
+    EXPECT_EQ(e[2].nCode, 2u);
+    EXPECT_EQ(e[2].nSig, 2u);
+    EXPECT_EQ(e[4].nMessage, 275u);
+    EXPECT_EQ(e[4].nCode, 275u);
+    EXPECT_EQ(e[4].nSig, 3u);
+    EXPECT_EQ(e[8].nSig, 0u);
+    EXPECT_EQ(e[8].pfn, nullptr);
+
+    CEmptyHandler empty;
+    EXPECT_EQ(empty.GetSFMessageMap()->lpEntries[0].nSig, 0u);
+}
+
+TEST(MessageMapDispatch, MemberOfAHandlerWithSeveralBasesReadsItsOwnFields)
+{
+    CMultiHandler h;
+    CSFEventBase* base = &h;
+    ASSERT_NE(static_cast<void*>(base), static_cast<void*>(&h)) << "the test needs an offset base";
+
+    base->Dlg_OnCommand(3);
+    base->Dlg_OnCommand(15);
+    base->Dlg_OnCommand(21);   // not mapped
+    base->Dlg_OnCommand(4);    // mapped with signature 3: commands call signature 1 only
+    tagNMHDR hdr{ nullptr, 7, 99 };
+    long result = 0;
+    base->OnNotifyClick(0x10002, 7, &hdr, &result);   // only the low 16 bits of the code count
+    base->OnNotifyClick(9, 7, &hdr, &result);
+    base->OnUIMessage(SF_MSG_UI, 5, 77, 5);
+    base->OnUIMessage(SF_MSG_UI, 8, 1, 8);  // signature 1: UI messages call signature 3 only
+
+    const std::vector<std::string> expected = { "multi:apply", "multi:range", "multi:row99",
+                                                "multi:voidnotify", "multi:ui77/5" };
+    EXPECT_EQ(h.log, expected);
+    EXPECT_EQ(result, 42);
+}
+
+TEST(MessageIDs, NoUiEntriesAllocateNothing)
+{
+    CPlainHandler plain;
+    EXPECT_EQ(plain.GetThisMessageIDs(), nullptr);
+    EXPECT_EQ(plain.m_pMessageIDs, nullptr);
+    CEmptyHandler empty;
+    EXPECT_EQ(empty.GetThisMessageIDs(), nullptr);
+    EXPECT_EQ(empty.m_pMessageIDs, nullptr);
+}
+
+TEST(MessageIDs, UiEntriesGiveACachedTerminatedList)
+{
+    CMultiHandler h;
+    int* ids = h.GetThisMessageIDs();
+    ASSERT_NE(ids, nullptr);
+    EXPECT_EQ(ids[0], 5);
+    EXPECT_EQ(ids[1], 1);
+    EXPECT_EQ(ids[2], 8);
+    EXPECT_EQ(ids[3], -1);
+    EXPECT_EQ(h.GetThisMessageIDs(), ids);
+    EXPECT_EQ(h.m_pMessageIDs, ids);
+}
+
+} // namespace

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "SkinEntry.h"
+
+#include <QPainterPath>
+#include <QPointF>
+
+#include <vector>
+
+class QPainter;
+
+// The product logo on the toolbar and the banner of the About dialog.
+class BrandSkins
+{
+public:
+    static void addTo(std::vector<SkinEntry>& out);
+
+    // "Tallix" built from strokes, baseline at y 0 and starting at x 0, so
+    // that the logo does not depend on the fonts of the build machine.
+    static QPainterPath wordmark(qreal capHeight, qreal* advance);
+
+private:
+    static void logo(QPainter& p, const QSize& size);
+    static void aboutBanner(QPainter& p, const QSize& size);
+    static void badge(QPainter& p, const QRectF& rect);
+    static qreal signature(QPainter& p, const QPointF& origin, qreal capHeight, qreal taglinePixels);
+};

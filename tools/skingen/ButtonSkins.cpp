@@ -1,0 +1,230 @@
+#include "ButtonSkins.h"
+
+#include "Glyphs.h"
+#include "SkinPalette.h"
+#include "SkinShapes.h"
+
+#include <QLinearGradient>
+#include <QPainter>
+
+namespace {
+
+
+void addStates(std::vector<SkinEntry>& out, const QSize& size, const QString (&names)[4],
+               const std::function<void(QPainter&, const QSize&, SkinState)>& draw)
+{
+    const SkinState states[4] = {SkinState::Normal, SkinState::Hover, SkinState::Pressed, SkinState::Disabled};
+    for (int i = 0; i < 4; ++i) {
+        if (names[i].isEmpty())
+            continue;
+        const SkinState state = states[i];
+        out.push_back({names[i], size, [draw, state](QPainter& p, const QSize& s) { draw(p, s, state); }});
+    }
+}
+
+} // namespace
+
+void ButtonSkins::addTo(std::vector<SkinEntry>& out)
+{
+    // Toolbar and dialog title buttons. The close images also serve the
+    // dialogs, at 24 by 24 and 17 by 16, on a light title band: the chip keeps
+    // them legible on both grounds.
+    const QString about[4] = {QStringLiteral("about-normal.png"), QStringLiteral("about-hover.png"),
+                              QStringLiteral("about-pressed.png"), QStringLiteral("about-disabled.png")};
+    addStates(out, QSize(24, 24), about,
+              [](QPainter& p, const QSize& s, SkinState st) { windowChip(p, s, Chip::About, st); });
+    const QString min[4] = {QStringLiteral("min-normal.png"), QStringLiteral("min-hover.png"),
+                            QStringLiteral("min-pressed.png"), QStringLiteral("min-disabled.png")};
+    addStates(out, QSize(27, 24), min,
+              [](QPainter& p, const QSize& s, SkinState st) { windowChip(p, s, Chip::Minimise, st); });
+    const QString close[4] = {QStringLiteral("close-normal.png"), QStringLiteral("close-hover.png"),
+                              QStringLiteral("close-pressed.png"), QStringLiteral("close-disabled.png")};
+    addStates(out, QSize(27, 24), close,
+              [](QPainter& p, const QSize& s, SkinState st) { windowChip(p, s, Chip::Close, st); });
+
+    // Channel page: a label is laid over these from x 26 (add) and x 25 (clear).
+    const QString add[4] = {QStringLiteral("add_nor.png"), QStringLiteral("add_hove.png"),
+                            QStringLiteral("add_press.png"), QStringLiteral("add_dis.png")};
+    addStates(out, QSize(131, 36), add, &ButtonSkins::addButton);
+    // The page uses one picture for hover and pressed.
+    const QString clear[4] = {QStringLiteral("delect_nor.png"), QStringLiteral("delect_press.png"), QString(),
+                              QStringLiteral("delect_dis.png")};
+    addStates(out, QSize(100, 36), clear, &ButtonSkins::clearButton);
+
+    const QString rowDel[4] = {QStringLiteral("list_clear_nor.png"), QStringLiteral("list_clear_hover.png"),
+                               QString(), QStringLiteral("list_clear_dis.png")};
+    addStates(out, QSize(22, 27), rowDel, &ButtonSkins::rowDelete);
+
+    // Text buttons of the message dialog and the stream editor, which also
+    // asks for the misspelt disabled picture.
+    const QString text[4] = {QStringLiteral("btn_normal.png"), QStringLiteral("btn_hover.png"),
+                             QStringLiteral("btn_press.png"), QStringLiteral("btn_disabled.png")};
+    addStates(out, QSize(72, 25), text, &ButtonSkins::textButton);
+    out.push_back({QStringLiteral("btn_diabled.png"), QSize(72, 25),
+                   [](QPainter& p, const QSize& s) { textButton(p, s, SkinState::Disabled); }});
+
+    const QString calc[4] = {QStringLiteral("calculator_nor.png"), QStringLiteral("calculator_hover.png"),
+                             QStringLiteral("calculator_push.png"), QStringLiteral("calculator_dis.png")};
+    addStates(out, QSize(56, 48), calc, &ButtonSkins::calculateButton);
+}
+
+void ButtonSkins::windowChip(QPainter& p, const QSize& size, Chip chip, SkinState state)
+{
+    p.setRenderHint(QPainter::Antialiasing);
+    const bool isClose = chip == Chip::Close;
+    QColor fill;
+    QColor glyph = SkinPalette::onNavy();
+    switch (state) {
+    case SkinState::Normal:
+        fill = SkinPalette::slateChip();
+        break;
+    case SkinState::Hover:
+        fill = isClose ? SkinPalette::danger() : SkinPalette::accent();
+        glyph = Qt::white;
+        break;
+    case SkinState::Pressed:
+        fill = isClose ? SkinPalette::dangerDark() : SkinPalette::accentDark();
+        glyph = SkinShapes::mix(Qt::white, fill, 0.12);
+        break;
+    case SkinState::Disabled:
+        fill = SkinPalette::disabledChip();
+        glyph = SkinPalette::onNavyMuted();
+        break;
+    }
+    const QRectF body(1, 1, size.width() - 2, size.height() - 2);
+    QLinearGradient g(0, body.top(), 0, body.bottom());
+    g.setColorAt(0.0, SkinShapes::mix(fill, Qt::white, state == SkinState::Pressed ? 0.0 : 0.08));
+    g.setColorAt(1.0, fill);
+    SkinShapes::panel(p, body, 4, g, SkinShapes::mix(fill, Qt::black, 0.18));
+
+    const QPointF c = body.center() + (state == SkinState::Pressed ? QPointF(0, 0.5) : QPointF());
+    switch (chip) {
+    case Chip::About:
+        Glyphs::info(p, QRectF(c.x() - 2, c.y() - 5.5, 4, 11), glyph, 2.0);
+        break;
+    case Chip::Minimise:
+        Glyphs::minimise(p, QRectF(c.x() - 5, c.y() + 0.5, 10, 2), glyph, 2.0);
+        break;
+    case Chip::Close:
+        Glyphs::close(p, QRectF(c.x() - 4.5, c.y() - 4.5, 9, 9), glyph, 1.8);
+        break;
+    }
+}
+
+void ButtonSkins::lightFace(QPainter& p, const QRectF& rect, qreal radius, SkinState state)
+{
+    QColor top, bottom, edge;
+    switch (state) {
+    case SkinState::Normal:
+        top = Qt::white;
+        bottom = SkinShapes::mix(Qt::white, SkinPalette::fieldFill(), 0.7);
+        edge = SkinPalette::fieldEdge();
+        break;
+    case SkinState::Hover:
+        top = SkinShapes::mix(SkinPalette::accentTint(), Qt::white, 0.5);
+        bottom = SkinPalette::accentTint();
+        edge = SkinPalette::accent();
+        break;
+    case SkinState::Pressed:
+        top = SkinPalette::accentTintStrong();
+        bottom = SkinShapes::mix(SkinPalette::accentTintStrong(), SkinPalette::accentTint(), 0.5);
+        edge = SkinPalette::accentDark();
+        break;
+    case SkinState::Disabled:
+        top = bottom = SkinPalette::disabledFill();
+        edge = SkinPalette::disabledEdge();
+        break;
+    }
+    QLinearGradient g(0, rect.top(), 0, rect.bottom());
+    g.setColorAt(0.0, top);
+    g.setColorAt(1.0, bottom);
+    SkinShapes::panel(p, rect, radius, g, edge);
+}
+
+void ButtonSkins::addButton(QPainter& p, const QSize& size, SkinState state)
+{
+    p.setRenderHint(QPainter::Antialiasing);
+    lightFace(p, QRectF(0, 0, size.width(), size.height()), 5, state);
+    const QColor disc = state == SkinState::Disabled ? SkinPalette::disabledGlyph()
+                        : state == SkinState::Pressed ? SkinPalette::accentDark()
+                                                       : SkinPalette::accent();
+    const QPointF c(14, size.height() / 2.0);
+    p.setPen(Qt::NoPen);
+    p.setBrush(disc);
+    p.drawEllipse(c, 8, 8);
+    Glyphs::plus(p, QRectF(c.x() - 4, c.y() - 4, 8, 8), Qt::white, 1.8);
+}
+
+void ButtonSkins::clearButton(QPainter& p, const QSize& size, SkinState state)
+{
+    p.setRenderHint(QPainter::Antialiasing);
+    lightFace(p, QRectF(0, 0, size.width(), size.height()), 5, state);
+    const bool off = state == SkinState::Disabled;
+    const QColor lines = off ? SkinPalette::disabledGlyph() : SkinPalette::glyph();
+    const QColor cross = off ? SkinPalette::disabledGlyph() : SkinPalette::danger();
+    const qreal top = size.height() / 2.0 - 6.5;
+    Glyphs::clearList(p, QRectF(7, top, 14, 13), lines, cross, 1.8);
+}
+
+void ButtonSkins::textButton(QPainter& p, const QSize& size, SkinState state)
+{
+    // The caption is drawn by the button: black, and white while pressed, so
+    // the pressed face is the one dark face.
+    p.setRenderHint(QPainter::Antialiasing);
+    const QRectF rect(0, 0, size.width(), size.height());
+    if (state == SkinState::Pressed) {
+        QLinearGradient g(0, 0, 0, rect.height());
+        g.setColorAt(0.0, SkinPalette::accent());
+        g.setColorAt(1.0, SkinPalette::accentDark());
+        SkinShapes::panel(p, rect, 4, g, SkinPalette::accentDark());
+        return;
+    }
+    lightFace(p, rect, 4, state);
+}
+
+void ButtonSkins::calculateButton(QPainter& p, const QSize& size, SkinState state)
+{
+    p.setRenderHint(QPainter::Antialiasing);
+    const QRectF rect(0, 0, size.width(), size.height());
+    QColor top, bottom, edge;
+    QColor glyph = Qt::white;
+    switch (state) {
+    case SkinState::Normal:
+        top = SkinPalette::accentLight();
+        bottom = SkinPalette::accent();
+        edge = SkinPalette::accentDark();
+        break;
+    case SkinState::Hover:
+        top = SkinShapes::mix(SkinPalette::accentLight(), Qt::white, 0.18);
+        bottom = SkinPalette::accentLight();
+        edge = SkinPalette::accent();
+        break;
+    case SkinState::Pressed:
+        top = SkinPalette::accentDark();
+        bottom = SkinShapes::mix(SkinPalette::accentDark(), SkinPalette::accent(), 0.4);
+        edge = SkinShapes::mix(SkinPalette::accentDark(), Qt::black, 0.2);
+        glyph = SkinShapes::mix(Qt::white, SkinPalette::accentTintStrong(), 0.5);
+        break;
+    case SkinState::Disabled:
+        top = bottom = SkinPalette::disabledFill();
+        edge = SkinPalette::disabledEdge();
+        glyph = SkinPalette::disabledGlyph();
+        break;
+    }
+    QLinearGradient g(0, 0, 0, rect.height());
+    g.setColorAt(0.0, top);
+    g.setColorAt(1.0, bottom);
+    SkinShapes::panel(p, rect, 6, g, edge);
+    const qreal dy = state == SkinState::Pressed ? 1 : 0;
+    Glyphs::calculator(p, QRectF(18, 11 + dy, 20, 26), glyph, 2.0);
+}
+
+void ButtonSkins::rowDelete(QPainter& p, const QSize& size, SkinState state)
+{
+    p.setRenderHint(QPainter::Antialiasing);
+    const QColor colour = state == SkinState::Hover      ? SkinPalette::danger()
+                          : state == SkinState::Disabled ? SkinPalette::disabledGlyph()
+                                                         : SkinPalette::glyph();
+    const QRectF box(size.width() / 2.0 - 6, size.height() / 2.0 - 6.5, 12, 13);
+    Glyphs::trash(p, box, colour, 1.5);
+}

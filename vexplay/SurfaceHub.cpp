@@ -1,0 +1,103 @@
+#include "SurfaceHub.h"
+
+#include "FrameSink.h"
+#include "PortTable.h"
+#include "VideoSurface.h"
+
+#include <QCoreApplication>
+#include <QThread>
+#include <QTimer>
+
+namespace vexplay {
+
+namespace {
+
+// Longer than a looping clip takes to close, reopen and show its first frame.
+constexpr int kIdleBlankMs = 300;
+
+} // namespace
+
+std::mutex SurfaceHub::s_mutex;
+SurfaceHub* SurfaceHub::s_hub = nullptr;
+
+SurfaceHub::SurfaceHub(QObject* parent)
+    : QObject(parent)
+{
+}
+
+SurfaceHub::~SurfaceHub()
+{
+    std::lock_guard<std::mutex> lock(s_mutex);
+    if (s_hub == this)
+        s_hub = nullptr;
+}
+
+bool SurfaceHub::OnGuiThread()
+{
+    const QCoreApplication* app = QCoreApplication::instance();
+    return app && QThread::currentThread() == app->thread();
+}
+
+SurfaceHub* SurfaceHub::Instance()
+{
+    std::lock_guard<std::mutex> lock(s_mutex);
+    if (!s_hub && QCoreApplication::instance()) {
+        s_hub = new SurfaceHub(QCoreApplication::instance());
+        // Before the application goes, no decoding thread may still run.
+        qAddPostRoutine(&SurfaceHub::Shutdown);
+    }
+    return s_hub;
+}
+
+void SurfaceHub::Shutdown()
+{
+    PortTable::Instance().StopAll();
+    std::lock_guard<std::mutex> lock(s_mutex);
+    s_hub = nullptr;
+}
+
+std::shared_ptr<FrameSink> SurfaceHub::Attach(WId window)
+{
+    if (!OnGuiThread() || !window)
+        return nullptr;
+    QWidget* target = QWidget::find(window);
+    if (!target || !Instance())
+        return nullptr;
+    VideoSurface* surface = VideoSurface::Of(target);
+    if (!surface)
+        surface = new VideoSurface(target);
+    PortTable::Instance().RegisterWindow(window, surface->Sink());
+    return surface->Sink();
+}
+
+void SurfaceHub::Notify(const std::shared_ptr<FrameSink>& sink)
+{
+    std::lock_guard<std::mutex> lock(s_mutex);
+    if (SurfaceHub* hub = s_hub)
+        QMetaObject::invokeMethod(hub, [hub, sink] { hub->Present(sink); }, Qt::QueuedConnection);
+}
+
+void SurfaceHub::NotifyIdle(const std::shared_ptr<FrameSink>& sink)
+{
+    std::lock_guard<std::mutex> lock(s_mutex);
+    if (SurfaceHub* hub = s_hub) {
+        QMetaObject::invokeMethod(hub, [hub, sink] {
+            QTimer::singleShot(kIdleBlankMs, hub, [hub, sink] { hub->BlankIfIdle(sink); });
+        }, Qt::QueuedConnection);
+    }
+}
+
+void SurfaceHub::Present(const std::shared_ptr<FrameSink>& sink)
+{
+    QImage picture = sink->Take();
+    if (sink->surface && !picture.isNull())
+        sink->surface->ShowFrame(std::move(picture));
+}
+
+void SurfaceHub::BlankIfIdle(const std::shared_ptr<FrameSink>& sink)
+{
+    if (sink->surface && !PortTable::Instance().Playing(sink))
+        sink->surface->Blank();
+}
+
+} // namespace vexplay
