@@ -1,0 +1,1 @@
+# Sources of this control family are added here with target_sources(sf PRIVATE ...).
