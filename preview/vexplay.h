@@ -9,9 +9,11 @@
  * Threads: each playing port decodes on a thread of the library's own, and the
  * file-end callback runs on that thread. Any operation may be called from the
  * callback, including closing, reopening and playing its own port again.
- * Once vexplay_CloseFile returns, no callback of that port runs any more.
- * If the window a port plays into is destroyed, the port stops by itself and
- * calls nothing after; it stays held until vexplay_CloseFile.
+ * Once vexplay_CloseFile returns, no callback of that port runs any more (a
+ * close from inside a callback cannot wait for others running at the time).
+ * If the window a port plays into is destroyed, the port stops by itself,
+ * waits for its running callback and calls nothing after; it stays held until
+ * vexplay_CloseFile, or until vexplay_GetPort runs out of free ports.
  */
 
 #ifdef __cplusplus

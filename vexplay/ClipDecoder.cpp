@@ -6,6 +6,8 @@ extern "C" {
 #include <libavutil/avutil.h>
 }
 
+#include <sys/stat.h>
+
 #include <mutex>
 
 namespace vexplay {
@@ -31,7 +33,10 @@ void QuietLogging()
 
 std::unique_ptr<ClipDecoder> ClipDecoder::Open(const std::string& path)
 {
-    if (path.empty())
+    // Regular files only: a pipe would block the open for ever, a device
+    // could deliver without end.
+    struct stat info {};
+    if (path.empty() || stat(path.c_str(), &info) != 0 || !S_ISREG(info.st_mode))
         return nullptr;
     QuietLogging();
     std::unique_ptr<ClipDecoder> clip(new ClipDecoder);

@@ -228,7 +228,7 @@ bool PortTable::Play(int port, void* window)
             sink = it->second.lock();
     }
     Slot* slot = HeldSlot(port);
-    if (!slot || !slot->clip || m_shutDown)
+    if (!slot || !slot->clip)
         return false;
     if (!sink || !sink->alive) {
         // Its window is gone or was never there: should the holder be gone
@@ -318,7 +318,12 @@ void PortTable::StopAll()
 {
     Leftovers leftovers;
     Lock lock(m_mutex);
-    m_shutDown = true;
+    // No play into the windows of this application any more; those of a
+    // later one are new.
+    for (const auto& known : m_windows)
+        if (const std::shared_ptr<FrameSink> sink = known.second.lock())
+            sink->alive = false;
+    m_windows.clear();
     StopAndWait(lock, [](const ClipPlayer&) { return true; });
     for (Slot& slot : m_slots)
         Retire(slot, leftovers);

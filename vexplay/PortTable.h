@@ -81,10 +81,11 @@ private:
     void Retire(Slot& slot, Leftovers& leftovers);
     void Release(Slot& slot, Leftovers& leftovers);
     void ReapZombies(Leftovers& leftovers);
-    // Waits while a callback of a matching player runs on another thread,
-    // unless this thread is in a callback itself: two callbacks waiting for
-    // each other would never end. stopMatching runs before every check, as
-    // callbacks may have started new plays meanwhile.
+    // Stops the matching players of the slots, clears those slots'
+    // callbacks, and waits while a matching player's callback runs on
+    // another thread; again after each wait, as a callback may start new
+    // plays. A thread in a callback itself does not wait: two callbacks
+    // waiting for each other would never end.
     void StopAndWait(Lock& lock, const PlayerTest& match);
 
     std::mutex m_mutex;
@@ -95,7 +96,6 @@ private:
     Players m_zombies;
     std::map<WId, std::weak_ptr<FrameSink>> m_windows;
     unsigned long long m_orphans = 0;
-    bool m_shutDown = false;
 };
 
 } // namespace vexplay

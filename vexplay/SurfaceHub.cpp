@@ -70,21 +70,34 @@ std::shared_ptr<FrameSink> SurfaceHub::Attach(WId window)
     return surface->Sink();
 }
 
+template <typename Work>
+void SurfaceHub::Post(Work work)
+{
+    // Called with s_mutex held. The work first takes s_mutex as well, which
+    // orders whatever the posting thread wrote before its reads in a way
+    // that thread checkers can see through Qt's own queue.
+    if (SurfaceHub* hub = s_hub) {
+        QMetaObject::invokeMethod(hub, [hub, work = std::move(work)] {
+            {
+                std::lock_guard<std::mutex> lock(s_mutex);
+            }
+            work(hub);
+        }, Qt::QueuedConnection);
+    }
+}
+
 void SurfaceHub::Notify(const std::shared_ptr<FrameSink>& sink)
 {
     std::lock_guard<std::mutex> lock(s_mutex);
-    if (SurfaceHub* hub = s_hub)
-        QMetaObject::invokeMethod(hub, [hub, sink] { hub->Present(sink); }, Qt::QueuedConnection);
+    Post([sink](SurfaceHub* hub) { hub->Present(sink); });
 }
 
 void SurfaceHub::NotifyIdle(const std::shared_ptr<FrameSink>& sink)
 {
     std::lock_guard<std::mutex> lock(s_mutex);
-    if (SurfaceHub* hub = s_hub) {
-        QMetaObject::invokeMethod(hub, [hub, sink] {
-            QTimer::singleShot(kIdleBlankMs, hub, [hub, sink] { hub->BlankIfIdle(sink); });
-        }, Qt::QueuedConnection);
-    }
+    Post([sink](SurfaceHub* hub) {
+        QTimer::singleShot(kIdleBlankMs, hub, [hub, sink] { hub->BlankIfIdle(sink); });
+    });
 }
 
 void SurfaceHub::Present(const std::shared_ptr<FrameSink>& sink)

@@ -34,6 +34,8 @@ private:
     explicit SurfaceHub(QObject* parent);
     static SurfaceHub* Instance();
     static void Shutdown();
+    template <typename Work>
+    static void Post(Work work);
     void Present(const std::shared_ptr<FrameSink>& sink);
     void BlankIfIdle(const std::shared_ptr<FrameSink>& sink);
 

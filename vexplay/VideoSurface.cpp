@@ -80,14 +80,12 @@ void VideoSurface::paintEvent(QPaintEvent*)
     if (m_picture.isNull())
         return;
     // The picture was scaled for the size of its time; after a resize it is
-    // stretched until the next one arrives.
+    // stretched, coarsely, for the moment until the next one arrives.
     const QSize shown = FrameScaler::FitSize(m_picture.width(), m_picture.height(), 1.0, m_sink->Area());
     const qreal ratio = devicePixelRatioF();
     const QSize logical(qRound(shown.width() / ratio), qRound(shown.height() / ratio));
     // Whole pixels, so that a picture of the right size is copied, not resampled.
     const QRect place(QPoint((width() - logical.width()) / 2, (height() - logical.height()) / 2), logical);
-    if (shown != m_picture.size())
-        painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.drawImage(place, m_picture);
 }
 

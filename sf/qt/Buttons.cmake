@@ -1,1 +1,9 @@
-# Sources of this control family are added here with target_sources(sf PRIVATE ...).
+# Image button, image toggle and check box.
+target_sources(sf PRIVATE
+  qt/SFFactoryButtons.cpp
+  qt/SFPicFade.cpp
+  qt/SFSkinPicture.cpp
+  qt/SFToggleSkin.cpp
+  qt/SFQTButton.cpp
+  qt/SFQTRadioBox.cpp
+  qt/SFQTCheckBox.cpp)

@@ -8,9 +8,9 @@
 #include "SFSkinParse.h"
 
 #include <QMouseEvent>
-#include <algorithm>
 #include <QPainter>
 #include <QResizeEvent>
+#include <algorithm>
 
 CSFQTView::CSFQTView(ISFViewEvent* handler, QWidget* parent)
     : QWidget(parent), CSFView(handler), m_bgColor(92, 101, 118), m_frameEnabled(0),

@@ -1,1 +1,5 @@
-# Tests of this control family are added here with tallix_add_test(...).
+tallix_add_test(sf_buttons_tests
+  SOURCES SfTestSupport.cpp ButtonsTestSupport.cpp ButtonTest.cpp RadioBoxTest.cpp ButtonsRoadsTest.cpp
+  LIBS sf Qt6::Test
+  QT)
+add_dependencies(sf_buttons_tests tallix_skins)

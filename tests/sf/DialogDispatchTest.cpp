@@ -17,6 +17,8 @@
 #include <QTest>
 #include <QTimer>
 #include <gtest/gtest.h>
+
+#include "QtWait.h"
 #include <memory>
 
 namespace {
@@ -152,7 +154,7 @@ TEST(UIMessages, SentAtOnceAndPostedLater)
     EXPECT_EQ(handler.log, (Log{ "ui:42/5" }));
     SFPostUIMessage(handler.GetUIWnd(), 5, 43);
     EXPECT_EQ(handler.log.size(), 1u);
-    QTRY_COMPARE(handler.log.size(), std::size_t(2));
+    EXPECT_EVENTUALLY_EQ(handler.log.size(), std::size_t(2));
     EXPECT_EQ(handler.log.back(), "ui:43/5");
     SFSendUIMessage(handler.GetUIWnd(), 6, 1); // not mapped
     SFSendUIMessage(nullptr, 5, 1);
@@ -299,7 +301,7 @@ TEST(DialogTimers, SecondSetKeepsTheFirstInterval)
     const unsigned int first = dlg.SetDlgTimer(5, 20);
     ASSERT_NE(first, 0u);
     EXPECT_EQ(dlg.SetDlgTimer(5, 100000), first);
-    QTRY_VERIFY_WITH_TIMEOUT(!handler.timers.empty(), 3000);
+    EXPECT_EVENTUALLY(!handler.timers.empty());
     EXPECT_EQ(handler.timers.front(), 5u);
     EXPECT_EQ(dlg.KillDlgTimer(5), 1);
     EXPECT_EQ(dlg.KillDlgTimer(5), 0);

@@ -1,1 +1,5 @@
-# Tests of this control family are added here with tallix_add_test(...).
+tallix_add_test(sf_inputs_tests
+  SOURCES SfTestSupport.cpp InputsTestSupport.cpp InputsEditTest.cpp InputsComboTest.cpp
+          InputsStaticTest.cpp InputsSpinnerTest.cpp InputsViewTest.cpp InputsShowcaseTest.cpp
+  LIBS sf Qt6::Test
+  QT)

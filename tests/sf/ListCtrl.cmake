@@ -1,1 +1,6 @@
-# Tests of this control family are added here with tallix_add_test(...).
+tallix_add_test(sf_listctrl_tests
+  SOURCES SfTestSupport.cpp ListCtrlTestSupport.cpp ListCtrlCellsTest.cpp ListCtrlTableTest.cpp
+    ListCtrlVariantsTest.cpp
+  LIBS sf Qt6::Test
+  QT)
+add_dependencies(sf_listctrl_tests tallix_skins tallix_data)

@@ -17,6 +17,8 @@
 #include <QScreen>
 #include <QTest>
 #include <gtest/gtest.h>
+
+#include "QtWait.h"
 #include <memory>
 
 namespace {
@@ -113,7 +115,7 @@ TEST_F(SkinnedWindow, MainWindowSmallerThanItsFrameIsCutFromIt)
 
     // Larger than the frame image: composed like a dialog.
     window.MoveWindow(50, 50, 300, 200);
-    QTRY_COMPARE(window.ComposedFrame().size(), QSize(300, 200));
+    EXPECT_EVENTUALLY_EQ(window.ComposedFrame().size(), QSize(300, 200));
     ExpectPixels(window.ComposedFrame().toImage(), { { 150, 100, Background, "interior" },
                                                      { 295, 195, BottomRight, "corner" } });
 }
@@ -138,13 +140,13 @@ TEST_F(SkinnedWindow, CaptionButtonCountsNegativeXFromTheRightEdge)
     EXPECT_EQ(QColor(dlg->grab().toImage().pixel(175, 10)).rgb(), Btn1Normal.rgb());
 
     QTest::mouseMove(dlg.get(), QPoint(175, 10));
-    QTRY_COMPARE(dlg->CurrentCaptionButton(), 1);
+    EXPECT_EVENTUALLY_EQ(dlg->CurrentCaptionButton(), 1);
     EXPECT_EQ(dlg->CurrentCaptionState(), 1);
     EXPECT_EQ(QColor(dlg->grab().toImage().pixel(175, 10)).rgb(), Btn1Hover.rgb());
 
     QTest::mouseClick(dlg.get(), Qt::LeftButton, Qt::NoModifier, QPoint(175, 10));
     EXPECT_TRUE(dlg->isVisible()) << "the close is queued";
-    QTRY_VERIFY(!dlg->isVisible());
+    EXPECT_EVENTUALLY(!dlg->isVisible());
 }
 
 TEST_F(SkinnedWindow, EmptyHitRectangleNeitherDrawsNorTakesClicks)
@@ -164,9 +166,9 @@ TEST_F(SkinnedWindow, DraggingStopsAtTheAvailableTop)
     const QPoint start = dlg->pos();
     QTest::mousePress(dlg.get(), Qt::LeftButton, Qt::NoModifier, QPoint(20, 10));
     QTest::mouseMove(dlg.get(), QPoint(60, 10));
-    QTRY_COMPARE(dlg->pos(), start + QPoint(40, 0));
+    EXPECT_EVENTUALLY_EQ(dlg->pos(), start + QPoint(40, 0));
     QTest::mouseMove(dlg.get(), QPoint(60, -400));
-    QTRY_COMPARE(dlg->y(), avail.top());
+    EXPECT_EVENTUALLY_EQ(dlg->y(), avail.top());
     QTest::mouseRelease(dlg.get(), Qt::LeftButton, Qt::NoModifier, QPoint(60, 10));
     EXPECT_EQ(dlg->y(), avail.top());
 

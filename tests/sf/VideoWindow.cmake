@@ -1,1 +1,10 @@
-# Tests of this control family are added here with tallix_add_test(...).
+tallix_add_test(sf_videowindow_layout_tests
+  SOURCES VideoWindowLayoutTest.cpp
+  LIBS sf)
+
+tallix_add_test(sf_videowindow_tests
+  SOURCES VideoWindowTest.cpp
+  LIBS sf Qt6::Test
+  QT)
+# The tests load the generated skin pictures.
+add_dependencies(sf_videowindow_tests tallix_skins)

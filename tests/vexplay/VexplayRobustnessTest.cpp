@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+
 #include <algorithm>
 #include <atomic>
 #include <fstream>
@@ -148,6 +150,12 @@ const BadFile kBadFiles[] = {
     {"empty_path", Expect::Fails, [](const TempDir&) { return std::string(); }},
     {"directory", Expect::Fails, [](const TempDir& d) { return d.Path(); }},
     {"web_address", Expect::Fails, [](const TempDir&) { return std::string("http://127.0.0.1:9/1low.kvf"); }},
+    {"device", Expect::Fails, [](const TempDir&) { return std::string("/dev/zero"); }},
+    {"pipe", Expect::Fails,
+        [](const TempDir& d) {
+            mkfifo(d.File("p.kvf").c_str(), 0600);
+            return d.File("p.kvf");
+        }},
     {"zero_length", Expect::Fails, [](const TempDir& d) { d.Write("z.kvf", ""); return d.File("z.kvf"); }},
     {"zeroed", Expect::Fails,
         [](const TempDir& d) { d.Write("z.kvf", std::string(256 * 1024, '\0')); return d.File("z.kvf"); }},

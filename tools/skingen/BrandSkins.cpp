@@ -25,7 +25,8 @@ QPainterPath strokeOf(const QPainterPath& centre, qreal width)
 QFont taglineFont(qreal pixels)
 {
     QFont font;
-    font.setFamilies({QStringLiteral("DejaVu Sans"), QStringLiteral("Noto Sans CJK SC")});
+    // The style sheet's families, in its order.
+    font.setFamilies({QStringLiteral("Segoe UI"), QStringLiteral("Noto Sans CJK SC"), QStringLiteral("DejaVu Sans")});
     font.setPixelSize(qRound(pixels));
     font.setLetterSpacing(QFont::PercentageSpacing, 104);
     return font;
@@ -132,7 +133,7 @@ void BrandSkins::badge(QPainter& p, const QRectF& rect)
     p.drawRoundedRect(rect, rect.width() * 0.26, rect.width() * 0.26);
     const qreal gw = rect.width() * 0.44;
     const qreal gh = rect.height() * 0.52;
-    Glyphs::storage(p, QRectF(rect.center().x() - gw / 2, rect.center().y() - gh / 2, gw, gh), Qt::white,
+    Glyphs::storage(p, QRectF(rect.center().x() - gw / 2, rect.center().y() - gh / 2, gw, gh), SkinPalette::onAccent(),
                     rect.width() * 0.065);
     p.restore();
 }
@@ -146,25 +147,30 @@ qreal BrandSkins::signature(QPainter& p, const QPointF& origin, qreal capHeight,
     p.translate(origin);
     QLinearGradient g(0, -capHeight, 0, 0);
     g.setColorAt(0.0, Qt::white);
-    g.setColorAt(1.0, SkinPalette::onNavy());
+    g.setColorAt(1.0, SkinPalette::onChrome());
     p.setPen(Qt::NoPen);
     p.setBrush(g);
     p.drawPath(mark);
 
     // A hairline and the product's line, at the wordmark's x-height centre.
-    const qreal dx = advance + capHeight * 0.55;
-    QColor rule = SkinPalette::onNavyMuted();
+    // Both snap to whole pixels of the image: a hairline or a baseline
+    // between two rows comes out as a grey smear.
+    auto snap = [](qreal v, qreal at) { return qRound(at + v) - at; };
+    const qreal dx = snap(advance + capHeight * 0.55, origin.x());
+    const qreal ruleTop = snap(-capHeight * 0.95, origin.y());
+    QColor rule = SkinPalette::onChromeMuted();
     rule.setAlpha(150);
-    p.fillRect(QRectF(dx, -capHeight * 0.95, 1, capHeight * 0.95), rule);
+    p.fillRect(QRectF(dx, ruleTop, 1, snap(0, origin.y()) - ruleTop), rule);
     const QFont font = taglineFont(taglinePixels);
     p.setFont(font);
-    p.setPen(SkinPalette::onNavyMuted());
+    p.setPen(SkinPalette::onChromeMuted());
     const QFontMetricsF fm(font);
     const QString tagline = QStringLiteral("Storage Planner");
-    const qreal baseline = -capHeight * 0.475 + (fm.ascent() - fm.descent()) / 2;
-    p.drawText(QPointF(dx + capHeight * 0.55, baseline), tagline);
+    const qreal tx = snap(dx + capHeight * 0.55, origin.x());
+    const qreal baseline = snap(-capHeight * 0.475 + (fm.ascent() - fm.descent()) / 2, origin.y());
+    p.drawText(QPointF(tx, baseline), tagline);
     p.restore();
-    return dx + capHeight * 0.55 + fm.horizontalAdvance(tagline);
+    return origin.x() + tx + fm.horizontalAdvance(tagline);
 }
 
 void BrandSkins::logo(QPainter& p, const QSize& size)
@@ -181,35 +187,40 @@ void BrandSkins::aboutBanner(QPainter& p, const QSize& size)
     const int h = size.height();
     p.setRenderHint(QPainter::Antialiasing);
     QLinearGradient g(0, 0, w, h);
-    g.setColorAt(0.0, SkinPalette::navyLow());
-    g.setColorAt(1.0, SkinPalette::navyHigh());
+    g.setColorAt(0.0, SkinPalette::chromeLow());
+    g.setColorAt(1.0, SkinPalette::chromeHigh());
     p.fillRect(QRect(0, 0, w, h), g);
-    // Rings of a lens at the right, behind the dialog's close button.
+    badge(p, QRectF(16, (h - 36) / 2.0 - 1, 36, 36));
+    const qreal textEnd = signature(p, QPointF(64, h / 2.0 + 11), 23, 13);
+
+    // Rings of a lens at the right, behind the dialog's close button; the
+    // widest stops short of the product's line rather than run through it.
     p.save();
-    p.setClipRect(QRect(0, 0, w, h - 2));
+    p.setClipRect(QRectF(textEnd + 6, 0, w, h - 2));
     const QPointF lens(w - 40, h * 0.72);
-    for (int i = 0; i < 5; ++i) {
-        QColor ring = SkinPalette::accent();
-        ring.setAlpha(70 - i * 12);
-        p.setPen(QPen(ring, 1.2));
+    const int rings = 4;
+    const qreal inner = 12;
+    const qreal outer = qMax(inner + rings, lens.x() - textEnd - 12);
+    QColor tone = SkinPalette::accent();
+    for (int i = 0; i < rings; ++i) {
+        tone.setAlpha(80 - i * 16);
+        p.setPen(QPen(tone, 1.2));
         p.setBrush(Qt::NoBrush);
-        const qreal r = 14 + i * 15;
+        const qreal r = inner + (outer - inner) * i / (rings - 1);
         p.drawEllipse(lens, r, r);
     }
-    QRadialGradient glow(lens, 40);
-    glow.setColorAt(0.0, QColor(SkinPalette::accent().red(), SkinPalette::accent().green(),
-                                SkinPalette::accent().blue(), 70));
-    glow.setColorAt(1.0, QColor(0, 0, 0, 0));
+    QRadialGradient glow(lens, 36);
+    tone.setAlpha(70);
+    glow.setColorAt(0.0, tone);
+    tone.setAlpha(0);
+    glow.setColorAt(1.0, tone);
     p.setPen(Qt::NoPen);
     p.setBrush(glow);
-    p.drawEllipse(lens, 40, 40);
+    p.drawEllipse(lens, 36, 36);
     p.restore();
-
-    badge(p, QRectF(16, (h - 36) / 2.0 - 1, 36, 36));
-    signature(p, QPointF(64, h / 2.0 + 11), 23, 13);
 
     QLinearGradient rule(0, 0, w, 0);
     rule.setColorAt(0.0, SkinPalette::accent());
-    rule.setColorAt(1.0, SkinShapes::mix(SkinPalette::accent(), SkinPalette::navyHigh(), 0.8));
+    rule.setColorAt(1.0, SkinShapes::mix(SkinPalette::accent(), SkinPalette::chromeHigh(), 0.8));
     p.fillRect(QRect(0, h - 2, w, 2), rule);
 }

@@ -23,5 +23,7 @@ private:
     static void logo(QPainter& p, const QSize& size);
     static void aboutBanner(QPainter& p, const QSize& size);
     static void badge(QPainter& p, const QRectF& rect);
+    // Wordmark and product line from the baseline origin; returns the x at
+    // which the text ends.
     static qreal signature(QPainter& p, const QPointF& origin, qreal capHeight, qreal taglinePixels);
 };

@@ -73,22 +73,22 @@ void ButtonSkins::windowChip(QPainter& p, const QSize& size, Chip chip, SkinStat
     p.setRenderHint(QPainter::Antialiasing);
     const bool isClose = chip == Chip::Close;
     QColor fill;
-    QColor glyph = SkinPalette::onNavy();
+    QColor glyph = SkinPalette::onChrome();
     switch (state) {
     case SkinState::Normal:
-        fill = SkinPalette::slateChip();
+        fill = SkinPalette::chromeChip();
         break;
     case SkinState::Hover:
         fill = isClose ? SkinPalette::danger() : SkinPalette::accent();
-        glyph = Qt::white;
+        glyph = isClose ? SkinPalette::onDanger() : SkinPalette::onAccent();
         break;
     case SkinState::Pressed:
         fill = isClose ? SkinPalette::dangerDark() : SkinPalette::accentDark();
-        glyph = SkinShapes::mix(Qt::white, fill, 0.12);
+        glyph = isClose ? SkinPalette::onDanger() : SkinPalette::onAccent();
         break;
     case SkinState::Disabled:
         fill = SkinPalette::disabledChip();
-        glyph = SkinPalette::onNavyMuted();
+        glyph = SkinPalette::disabledOnChrome();
         break;
     }
     const QRectF body(1, 1, size.width() - 2, size.height() - 2);
@@ -113,21 +113,23 @@ void ButtonSkins::windowChip(QPainter& p, const QSize& size, Chip chip, SkinStat
 
 void ButtonSkins::lightFace(QPainter& p, const QRectF& rect, qreal radius, SkinState state)
 {
+    // Near flat: hover warms the face to the pale amber of the table's
+    // highlight, pressing deepens it a step.
     QColor top, bottom, edge;
     switch (state) {
     case SkinState::Normal:
-        top = Qt::white;
-        bottom = SkinShapes::mix(Qt::white, SkinPalette::fieldFill(), 0.7);
+        top = SkinPalette::card();
+        bottom = SkinShapes::mix(SkinPalette::card(), SkinPalette::fieldFill(), 0.7);
         edge = SkinPalette::fieldEdge();
         break;
     case SkinState::Hover:
-        top = SkinShapes::mix(SkinPalette::accentTint(), Qt::white, 0.5);
-        bottom = SkinPalette::accentTint();
+        top = SkinPalette::accentTint();
+        bottom = SkinShapes::mix(SkinPalette::accentTint(), SkinPalette::accentTintStrong(), 0.6);
         edge = SkinPalette::accent();
         break;
     case SkinState::Pressed:
         top = SkinPalette::accentTintStrong();
-        bottom = SkinShapes::mix(SkinPalette::accentTintStrong(), SkinPalette::accentTint(), 0.5);
+        bottom = SkinShapes::mix(SkinPalette::accentTintStrong(), SkinPalette::accent(), 0.18);
         edge = SkinPalette::accentDark();
         break;
     case SkinState::Disabled:
@@ -145,14 +147,15 @@ void ButtonSkins::addButton(QPainter& p, const QSize& size, SkinState state)
 {
     p.setRenderHint(QPainter::Antialiasing);
     lightFace(p, QRectF(0, 0, size.width(), size.height()), 5, state);
-    const QColor disc = state == SkinState::Disabled ? SkinPalette::disabledGlyph()
+    const bool off = state == SkinState::Disabled;
+    const QColor disc = off                           ? SkinPalette::disabledGlyph()
                         : state == SkinState::Pressed ? SkinPalette::accentDark()
-                                                       : SkinPalette::accent();
+                                                      : SkinPalette::accent();
     const QPointF c(14, size.height() / 2.0);
     p.setPen(Qt::NoPen);
     p.setBrush(disc);
     p.drawEllipse(c, 8, 8);
-    Glyphs::plus(p, QRectF(c.x() - 4, c.y() - 4, 8, 8), Qt::white, 1.8);
+    Glyphs::plus(p, QRectF(c.x() - 4, c.y() - 4, 8, 8), off ? SkinPalette::card() : SkinPalette::onAccent(), 1.8);
 }
 
 void ButtonSkins::clearButton(QPainter& p, const QSize& size, SkinState state)
@@ -169,13 +172,14 @@ void ButtonSkins::clearButton(QPainter& p, const QSize& size, SkinState state)
 void ButtonSkins::textButton(QPainter& p, const QSize& size, SkinState state)
 {
     // The caption is drawn by the button: black, and white while pressed, so
-    // the pressed face is the one dark face.
+    // the pressed face is the one dark face: the top band's charcoal, with
+    // the accent as its edge instead of as its fill.
     p.setRenderHint(QPainter::Antialiasing);
     const QRectF rect(0, 0, size.width(), size.height());
     if (state == SkinState::Pressed) {
         QLinearGradient g(0, 0, 0, rect.height());
-        g.setColorAt(0.0, SkinPalette::accent());
-        g.setColorAt(1.0, SkinPalette::accentDark());
+        g.setColorAt(0.0, SkinPalette::chromeHigh());
+        g.setColorAt(1.0, SkinPalette::chromeLow());
         SkinShapes::panel(p, rect, 4, g, SkinPalette::accentDark());
         return;
     }
@@ -187,23 +191,22 @@ void ButtonSkins::calculateButton(QPainter& p, const QSize& size, SkinState stat
     p.setRenderHint(QPainter::Antialiasing);
     const QRectF rect(0, 0, size.width(), size.height());
     QColor top, bottom, edge;
-    QColor glyph = Qt::white;
+    QColor glyph = SkinPalette::onAccent();
     switch (state) {
     case SkinState::Normal:
-        top = SkinPalette::accentLight();
+        top = SkinShapes::mix(SkinPalette::accent(), SkinPalette::accentLight(), 0.5);
         bottom = SkinPalette::accent();
         edge = SkinPalette::accentDark();
         break;
     case SkinState::Hover:
-        top = SkinShapes::mix(SkinPalette::accentLight(), Qt::white, 0.18);
+        top = SkinShapes::mix(SkinPalette::accentLight(), SkinPalette::card(), 0.2);
         bottom = SkinPalette::accentLight();
         edge = SkinPalette::accent();
         break;
     case SkinState::Pressed:
         top = SkinPalette::accentDark();
         bottom = SkinShapes::mix(SkinPalette::accentDark(), SkinPalette::accent(), 0.4);
-        edge = SkinShapes::mix(SkinPalette::accentDark(), Qt::black, 0.2);
-        glyph = SkinShapes::mix(Qt::white, SkinPalette::accentTintStrong(), 0.5);
+        edge = SkinPalette::accentStroke();
         break;
     case SkinState::Disabled:
         top = bottom = SkinPalette::disabledFill();

@@ -57,9 +57,9 @@ void FieldSkins::face(QPainter& p, const QRectF& rect, Kind kind, Face face, qre
     QColor fill;
     QColor edge;
     if (kind == Kind::Outlined) {
-        fill = Qt::white;
-        edge = face == Face::Hover      ? SkinPalette::accentLight()
-               : face == Face::Open     ? SkinPalette::accent()
+        fill = SkinPalette::card();
+        edge = face == Face::Hover      ? SkinPalette::accent()
+               : face == Face::Open     ? SkinPalette::accentDark()
                : face == Face::Disabled ? SkinPalette::disabledEdge()
                                         : SkinPalette::fieldEdge();
         if (face == Face::Disabled)
@@ -91,7 +91,7 @@ void FieldSkins::chevronIn(QPainter& p, qreal x, qreal y, Face face)
 {
     p.save();
     p.setRenderHint(QPainter::Antialiasing);
-    const QColor colour = face == Face::Open       ? SkinPalette::accent()
+    const QColor colour = face == Face::Open       ? SkinPalette::accentStroke()
                           : face == Face::Disabled ? SkinPalette::disabledGlyph()
                                                    : SkinPalette::glyph();
     SkinShapes::chevron(p, QPointF(x, y), 4.5, 4.5, face == Face::Open, colour, 1.8);
@@ -133,7 +133,7 @@ void FieldSkins::tableSpinner(QPainter& p, const QSize& size)
     const qreal w = size.width();
     const qreal h = size.height();
     p.setRenderHint(QPainter::Antialiasing);
-    SkinShapes::panel(p, QRectF(0, 0, w, h), kFieldRadius, Qt::white, SkinPalette::fieldEdge());
+    SkinShapes::panel(p, QRectF(0, 0, w, h), kFieldRadius, SkinPalette::card(), SkinPalette::fieldEdge());
     const int zx = size.width() - kSpinButtons;
     p.save();
     p.setClipRect(QRect(zx, 1, kSpinButtons - 1, size.height() - 2));

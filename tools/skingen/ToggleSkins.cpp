@@ -35,13 +35,13 @@ void ToggleSkins::modeTab(QPainter& p, const QSize& size, bool checked)
     p.setRenderHint(QPainter::Antialiasing);
     const QRectF body(1, 0, w - 3, h);
     QLinearGradient g(0, 0, 0, h);
-    g.setColorAt(0.0, SkinShapes::mix(SkinPalette::accentTint(), Qt::white, 0.55));
-    g.setColorAt(1.0, SkinPalette::accentTint());
+    g.setColorAt(0.0, SkinPalette::accentTint());
+    g.setColorAt(1.0, SkinShapes::mix(SkinPalette::accentTint(), SkinPalette::accentTintStrong(), 0.6));
     p.setPen(Qt::NoPen);
     p.setBrush(g);
     p.drawPath(SkinShapes::roundedPath(body, 5, true, true, false, false));
     p.setBrush(Qt::NoBrush);
-    p.setPen(QPen(SkinShapes::mix(SkinPalette::accentTintStrong(), SkinPalette::accent(), 0.2), 1.0));
+    p.setPen(QPen(SkinShapes::mix(SkinPalette::accentTintStrong(), SkinPalette::accent(), 0.3), 1.0));
     p.drawPath(SkinShapes::roundedPath(body.adjusted(0.5, 0.5, -0.5, 0), 4.5, true, true, false, false));
     p.setRenderHint(QPainter::Antialiasing, false);
     p.fillRect(QRect(1, h - 3, w - 3, 3), SkinPalette::accent());
@@ -52,14 +52,14 @@ void ToggleSkins::audioSwitch(QPainter& p, const QSize& size, bool on)
     p.setRenderHint(QPainter::Antialiasing);
     const QRectF track(1, 2, size.width() - 2, size.height() - 4);
     const qreal r = track.height() / 2;
-    const QColor fill = on ? SkinPalette::accent() : QColor(0xC2, 0xCB, 0xD6);
-    SkinShapes::panel(p, track, r, fill, SkinShapes::mix(fill, Qt::black, 0.12));
+    const QColor fill = on ? SkinPalette::accent() : SkinPalette::switchOff();
+    SkinShapes::panel(p, track, r, fill, on ? SkinPalette::accentDark() : SkinShapes::mix(fill, Qt::black, 0.1));
     const qreal knobR = r - 2;
     const QPointF knob(on ? track.right() - r : track.left() + r, track.center().y());
     p.setPen(Qt::NoPen);
     p.setBrush(QColor(0, 0, 0, 40));
     p.drawEllipse(knob + QPointF(0, 0.8), knobR + 0.4, knobR + 0.4);
-    p.setBrush(Qt::white);
+    p.setBrush(SkinPalette::knob());
     p.drawEllipse(knob, knobR, knobR);
 }
 
@@ -68,5 +68,5 @@ void ToggleSkins::checkMark(QPainter& p, const QSize& size)
     p.setRenderHint(QPainter::Antialiasing);
     const QRectF box(1, 1, size.width() - 2, size.height() - 2);
     SkinShapes::panel(p, box, 3, SkinPalette::accent(), SkinPalette::accentDark());
-    Glyphs::check(p, QRectF(4, 4.5, size.width() - 8, size.height() - 9), Qt::white, 2.0);
+    Glyphs::check(p, QRectF(4, 4.5, size.width() - 8, size.height() - 9), SkinPalette::onAccent(), 2.0);
 }

@@ -34,13 +34,13 @@ void VideoSkins::addTo(std::vector<SkinEntry>& out)
 void VideoSkins::button(QPainter& p, const QSize& size, Icon icon, bool active)
 {
     p.setRenderHint(QPainter::Antialiasing);
-    QColor glyph = SkinPalette::onNavy();
+    QColor glyph = SkinPalette::onChrome();
     if (active) {
         const QColor fill = icon == Icon::Close ? SkinPalette::danger() : SkinPalette::accent();
         SkinShapes::panel(p, QRectF(0, 0, size.width(), size.height()), 3, fill, SkinShapes::mix(fill, Qt::black, 0.2));
-        glyph = Qt::white;
+        glyph = icon == Icon::Close ? SkinPalette::onDanger() : SkinPalette::onAccent();
     } else if (icon == Icon::Drag) {
-        glyph = SkinPalette::onNavyMuted();
+        glyph = SkinPalette::onChromeMuted();
     }
     const QPointF c(size.width() / 2.0, size.height() / 2.0);
     switch (icon) {

@@ -37,19 +37,19 @@ void WindowSkins::toolbar(QPainter& p, const QSize& size)
     const int w = size.width();
     const int h = size.height();
     QLinearGradient g(0, 0, 0, h);
-    g.setColorAt(0.0, SkinPalette::navyHigh());
-    g.setColorAt(1.0, SkinPalette::navyLow());
+    g.setColorAt(0.0, SkinPalette::chromeHigh());
+    g.setColorAt(1.0, SkinPalette::chromeLow());
     p.fillRect(QRect(0, 0, w, h), g);
     // Faint highlight along the top edge.
-    SkinShapes::hLine(p, 0, w - 1, 0, SkinShapes::mix(SkinPalette::navyHigh(), Qt::white, 0.10));
+    SkinShapes::hLine(p, 0, w - 1, 0, SkinShapes::mix(SkinPalette::chromeHigh(), Qt::white, 0.10));
     // Accent rule along the bottom, fading out towards the window controls.
     QLinearGradient rule(0, 0, w, 0);
     rule.setColorAt(0.0, SkinPalette::accent());
-    rule.setColorAt(0.55, SkinShapes::mix(SkinPalette::accent(), SkinPalette::navyLow(), 0.35));
-    rule.setColorAt(1.0, SkinShapes::mix(SkinPalette::accent(), SkinPalette::navyLow(), 0.85));
+    rule.setColorAt(0.55, SkinShapes::mix(SkinPalette::accent(), SkinPalette::chromeLow(), 0.35));
+    rule.setColorAt(1.0, SkinShapes::mix(SkinPalette::accent(), SkinPalette::chromeLow(), 0.85));
     p.fillRect(QRect(0, h - 2, w, 2), rule);
-    SkinShapes::vLine(p, 0, 0, h - 1, SkinPalette::navyDeep());
-    SkinShapes::vLine(p, w - 1, 0, h - 1, SkinPalette::navyDeep());
+    SkinShapes::vLine(p, 0, 0, h - 1, SkinPalette::chromeDeep());
+    SkinShapes::vLine(p, w - 1, 0, h - 1, SkinPalette::chromeDeep());
 }
 
 void WindowSkins::frameMain(QPainter& p, const QSize& size)
@@ -60,13 +60,13 @@ void WindowSkins::frameMain(QPainter& p, const QSize& size)
     toolbar(p, QSize(w, kToolbarHeight));
     // A soft shadow under the toolbar; the page view above it is transparent.
     for (int i = 0; i < 4; ++i) {
-        QColor shade = SkinPalette::navyDeep();
+        QColor shade = SkinPalette::chromeDeep();
         shade.setAlpha(46 - i * 12);
         p.fillRect(QRect(0, kToolbarHeight + i, w, 1), shade);
     }
-    SkinShapes::vLine(p, 0, 0, h - 1, SkinPalette::navyDeep());
-    SkinShapes::vLine(p, w - 1, 0, h - 1, SkinPalette::navyDeep());
-    SkinShapes::hLine(p, 0, w - 1, h - 1, SkinPalette::navyDeep());
+    SkinShapes::vLine(p, 0, 0, h - 1, SkinPalette::chromeDeep());
+    SkinShapes::vLine(p, w - 1, 0, h - 1, SkinPalette::chromeDeep());
+    SkinShapes::hLine(p, 0, w - 1, h - 1, SkinPalette::chromeDeep());
 }
 
 void WindowSkins::pageBackground(QPainter& p, const QSize& size)

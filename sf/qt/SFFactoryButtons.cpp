@@ -1,0 +1,22 @@
+#include "SFFactory.h"
+
+#include "SFQTButton.h"
+#include "SFQTCheckBox.h"
+#include "SFQTRadioBox.h"
+
+#include <new>
+
+CSFButton* SFCreateButton(ISFButtonEvent* handler)
+{
+    return new (std::nothrow) CSFQTButton(handler);
+}
+
+CSFCheckBox* SFCreateCheckBox(ISFCheckBoxEvent* handler)
+{
+    return new (std::nothrow) CSFQTCheckBox(handler);
+}
+
+CSFRadioBox* SFCreateRadioBox(ISFRadioBoxEvent* handler)
+{
+    return new (std::nothrow) CSFQTRadioBox(handler);
+}

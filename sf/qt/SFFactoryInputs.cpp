@@ -1,0 +1,28 @@
+#include "SFFactory.h"
+
+#include "SFQTComboBox.h"
+#include "SFQTEditCtrl.h"
+#include "SFQTNumSpiner.h"
+#include "SFQTStatic.h"
+
+#include <new>
+
+CSFEditCtrl* SFCreateEditCtrl(ISFEditCtrlEvent* handler)
+{
+    return new (std::nothrow) CSFQTEditCtrl(handler);
+}
+
+CSFComboBox* SFCreateComboBox(ISFComboBoxEvent* handler)
+{
+    return new (std::nothrow) CSFQTComboBox(handler);
+}
+
+CSFStatic* SFCreateStatic(ISFStaticEvent* handler)
+{
+    return new (std::nothrow) CSFQTStatic(handler);
+}
+
+CSFNumSpiner* SFCreateNumSpiner(ISFNumSpinerEvent* handler)
+{
+    return new (std::nothrow) CSFQTNumSpiner(handler);
+}

@@ -1,0 +1,335 @@
+#include "SFQTComboBox.h"
+
+#include "SFLog.h"
+#include "SFQTComboDelegate.h"
+#include "SFQtConvert.h"
+#include "SFSkinParse.h"
+
+#include <QAbstractItemView>
+#include <QCommonStyle>
+#include <QIcon>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScreen>
+#include <algorithm>
+#include <climits>
+#include <cstdint>
+#include <cwchar>
+#include <string>
+
+namespace {
+
+int ClampToInt(std::int64_t v)
+{
+    return static_cast<int>(std::clamp<std::int64_t>(v, INT_MIN, INT_MAX));
+}
+
+// "x,y,width,height" with right = x + width and bottom = y + height: one
+// pixel more each way than a frame rectangle, and the skins are cut so.
+QRect ParseSlice(const std::wstring& text)
+{
+    if (text.empty())
+        return QRect(QPoint(0, 0), QPoint(0, 0));
+    int x = 0, y = 0, w = 0, h = 0;
+    std::swscanf(text.c_str(), L"%d,%d,%d,%d", &x, &y, &w, &h);
+    return QRect(QPoint(x, y),
+                 QPoint(ClampToInt(std::int64_t(x) + w), ClampToInt(std::int64_t(y) + h)));
+}
+
+const QString& ComboStyleSheet()
+{
+    static const QString sheet = QStringLiteral(
+        "QComboBox {subcontrol-position: bottom;}"
+        "QComboBox QAbstractItemView {border: 1px solid darkgray;border-top-width: 0px;outline:0px;"
+        "background-color: rgb(227,227,227);"
+        "selection-background-color: rgb(132,144,167);"
+        "subcontrol-origin: content;"
+        "background-clip:content;"
+        "position: absolute;}"
+        "QComboBox QAbstractItemView::item:selected {Background: rgba(255,0,0,50%);}");
+    return sheet;
+}
+
+} // namespace
+
+CSFQTComboBox::CSFQTComboBox(ISFComboBoxEvent* handler, QWidget* parent)
+    : QComboBox(parent), CSFComboBox(handler), m_state(0), m_popupOpen(0), m_originStyle(0),
+      m_style(new QCommonStyle)
+{
+    // No platform style may paint this widget.
+    setStyle(m_style);
+    setFrame(false);
+    view()->viewport()->setFocusPolicy(Qt::NoFocus);
+    // Set after view(): making the popup installs Qt's own delegate.
+    setItemDelegate(new CSFQTComboDelegate(RowHeight, this));
+    // The popup's style sheet style leans on this style while the popup goes
+    // down: as the last child made, the style goes after it.
+    m_style->setParent(this);
+    Connect();
+}
+
+CSFQTComboBox::~CSFQTComboBox()
+{
+    // Qt still emits while its own parts go down; this half is gone by then.
+    Disconnect();
+}
+
+int CSFQTComboBox::Create(unsigned long style, const tagRECT& rect, void* parent, unsigned int id)
+{
+    setParent(SFWidgetFromHandle(parent));
+    setGeometry(SFRectForCreate(rect));
+    m_nID = id;
+    SFNameControl(this, "combo", id, QString());
+    SFApplyVisibleStyle(this, style);
+    return 1;
+}
+
+void CSFQTComboBox::SetCursor()
+{
+}
+
+int CSFQTComboBox::SetSkin(ImageComboBoxStyle* style)
+{
+    if (!style || m_originStyle == 1)
+        return 0;
+    m_image = QPixmap();
+    if (!style->strImage.empty())
+        m_image.load(SFSkinFilePath(style->strImage));
+
+    const std::wstring* rects[SliceCount] = { &style->strNormal,      &style->strHover,
+                                              &style->strPressedDown, &style->strPressedUp,
+                                              &style->strDisabled,    &style->strSlice6,
+                                              &style->strSlice7 };
+    const std::wstring* modes[SliceCount] = { &style->strNormalMode,      &style->strHoverMode,
+                                              &style->strPressedDownMode, &style->strPressedUpMode,
+                                              &style->strDisabledMode,    &style->strSlice6Mode,
+                                              &style->strSlice7Mode };
+    for (int i = 0; i < SliceCount; ++i) {
+        SliceInfo& slice = m_slices[i];
+        slice.set = rects[i]->empty() ? 0 : 1;
+        slice.stretch = (slice.set && *modes[i] == std::wstring(L"stretch")) ? 1 : 0;
+        slice.rect = ParseSlice(*rects[i]);
+    }
+    setStyleSheet(ComboStyleSheet());
+    update();
+    return 1;
+}
+
+void CSFQTComboBox::ShowWindow(int show)
+{
+    setVisible(show != 0);
+}
+
+void CSFQTComboBox::MoveWindow(tagRECT* rect)
+{
+    if (rect)
+        MoveWindow(rect->left, rect->top, rect->right - rect->left + 1,
+                   rect->bottom - rect->top + 1);
+}
+
+void CSFQTComboBox::MoveWindow(int x, int y, int w, int h)
+{
+    setGeometry(SFRectFromXYWH(x, y, w, h));
+}
+
+int CSFQTComboBox::AddString(const wchar_t* text)
+{
+    Disconnect();
+    // A transparent icon one pixel wide makes every popup row 25 high.
+    QPixmap spacer(1, RowHeight);
+    spacer.fill(Qt::transparent);
+    setIconSize(QSize(1, RowHeight));
+    addItem(QIcon(spacer), SFToQString(text));
+    const int index = count() - 1;
+    Connect();
+    return index;
+}
+
+int CSFQTComboBox::DeleteString(unsigned int index)
+{
+    if (index >= static_cast<unsigned int>(count()))
+        return -1;
+    Disconnect();
+    removeItem(static_cast<int>(index));
+    Connect();
+    return count();
+}
+
+int CSFQTComboBox::GetLBText(int index, wchar_t* buffer) const
+{
+    if (index < 0 || index >= count())
+        return -1;
+    const std::wstring value = itemText(index).toStdWString();
+    if (buffer)
+        std::copy(value.begin(), value.end(), buffer);
+    return static_cast<int>(value.size());
+}
+
+int CSFQTComboBox::GetCurSel() const
+{
+    return currentIndex();
+}
+
+int CSFQTComboBox::SetCurSel(int index)
+{
+    if (index < 0 || index >= count())
+        return -1;
+    Disconnect();
+    setCurrentIndex(index);
+    Connect();
+    return currentIndex();
+}
+
+int CSFQTComboBox::GetCount() const
+{
+    return count();
+}
+
+void CSFQTComboBox::EnableWindow(int enable)
+{
+    setEnabled(enable != 0);
+}
+
+void CSFQTComboBox::SetOriginStyle(int origin)
+{
+    m_originStyle = origin;
+    update();
+}
+
+void CSFQTComboBox::Clear()
+{
+    Disconnect();
+    clear();
+    Connect();
+}
+
+void CSFQTComboBox::ResetContent()
+{
+    for (int i = count() - 1; i >= 0; --i)
+        DeleteString(static_cast<unsigned int>(i));
+}
+
+void CSFQTComboBox::showPopup()
+{
+    m_state = 2;
+    m_popupOpen = 1;
+    QComboBox::showPopup();
+    // Qt opens nothing for an empty list; the control must not stay "open".
+    if (!view()->isVisible()) {
+        m_state = 0;
+        m_popupOpen = 0;
+    }
+    update();
+}
+
+void CSFQTComboBox::hidePopup()
+{
+    m_state = 0;
+    m_popupOpen = 0;
+    QComboBox::hidePopup();
+    update();
+}
+
+int CSFQTComboBox::PaintedSlice() const
+{
+    if (m_originStyle == 1)
+        return SliceCount;
+    if (!m_popupOpen)
+        return Normal;
+    // The popup opens downwards when its rows fit below the control.
+    const int rows = std::min(count(), maxVisibleItems());
+    const QScreen* where = screen();
+    const int screenBottom = where ? where->geometry().bottom() : INT_MAX;
+    const std::int64_t below =
+        std::int64_t(mapToGlobal(QPoint(0, 0)).y()) + height() + std::int64_t(rows) * RowHeight;
+    return below <= screenBottom ? PressedDown : PressedUp;
+}
+
+QRect CSFQTComboBox::TextRect() const
+{
+    QRect r = rect();
+    r.setRight(r.right() - (height() + 1));
+    return r;
+}
+
+void CSFQTComboBox::OnSelectChanged(int nIndex)
+{
+    qCDebug(lcSf) << "CSFQTComboBox::OnSelectChanged sender" << static_cast<const void*>(sender());
+    if (m_pHandler)
+        m_pHandler->SelectChanged(static_cast<int>(m_nID), nIndex, static_cast<CSFComboBox*>(this));
+}
+
+void CSFQTComboBox::paintEvent(QPaintEvent* e)
+{
+    if (m_originStyle == 1) {
+        QComboBox::paintEvent(e);
+        return;
+    }
+    // Hover and disabled give way here: only open or not counts.
+    m_state = m_popupOpen ? 2 : 0;
+    QPainter painter(this);
+    const int slice = PaintedSlice();
+    if (slice < SliceCount && m_slices[slice].set && !m_image.isNull())
+        painter.drawPixmap(QRectF(rect()), m_image, QRectF(m_slices[slice].rect));
+    painter.drawText(TextRect(), Qt::AlignHCenter | Qt::AlignVCenter, currentText());
+}
+
+void CSFQTComboBox::mousePressEvent(QMouseEvent* e)
+{
+    m_state = 2;
+    update();
+    QComboBox::mousePressEvent(e);
+}
+
+void CSFQTComboBox::mouseReleaseEvent(QMouseEvent* e)
+{
+    m_state = 0;
+    update();
+    QComboBox::mouseReleaseEvent(e);
+}
+
+void CSFQTComboBox::enterEvent(QEnterEvent* e)
+{
+    if (!PopupActive())
+        m_state = 1;
+    QComboBox::enterEvent(e);
+}
+
+void CSFQTComboBox::leaveEvent(QEvent* e)
+{
+    if (!PopupActive()) {
+        m_state = 0;
+        qCDebug(lcSf) << "leave";
+    }
+    QComboBox::leaveEvent(e);
+}
+
+void CSFQTComboBox::focusInEvent(QFocusEvent* e)
+{
+    m_state = 0;
+    m_popupOpen = 0;
+    QComboBox::focusInEvent(e);
+}
+
+void CSFQTComboBox::wheelEvent(QWheelEvent*)
+{
+    // The wheel never changes a combo box.
+}
+
+void CSFQTComboBox::Connect()
+{
+    if (!m_selectConnection)
+        m_selectConnection = connect(this, qOverload<int>(&QComboBox::currentIndexChanged), this,
+                                     &CSFQTComboBox::OnSelectChanged);
+}
+
+void CSFQTComboBox::Disconnect()
+{
+    if (m_selectConnection)
+        disconnect(m_selectConnection);
+}
+
+bool CSFQTComboBox::PopupActive() const
+{
+    return m_popupOpen != 0 || view()->isVisible();
+}

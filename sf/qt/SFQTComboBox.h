@@ -1,0 +1,84 @@
+#pragma once
+// Combo box painted from slices of one skin image. Only a choice the user
+// makes reaches the handler: the item setters are silent.
+
+#include "SFComboBox.h"
+
+#include <QComboBox>
+#include <QMetaObject>
+#include <QPixmap>
+#include <QRect>
+
+class QCommonStyle;
+
+class CSFQTComboBox : public QComboBox, public CSFComboBox {
+    Q_OBJECT
+public:
+    enum Slice { Normal, Hover, PressedDown, PressedUp, Disabled, Slice6, Slice7, SliceCount };
+    // Height of every popup row.
+    static constexpr int RowHeight = 25;
+
+    explicit CSFQTComboBox(ISFComboBoxEvent* handler, QWidget* parent = nullptr);
+    ~CSFQTComboBox() override;
+
+    int Create(unsigned long style, const tagRECT& rect, void* parent, unsigned int id) override;
+    void SetCursor() override;
+    int SetSkin(ImageComboBoxStyle* style) override;
+    void ShowWindow(int show) override;
+    void MoveWindow(tagRECT* rect) override;
+    void MoveWindow(int x, int y, int w, int h) override;
+    int AddString(const wchar_t* text) override;
+    int DeleteString(unsigned int index) override;
+    int GetLBText(int index, wchar_t* buffer) const override;
+    int GetCurSel() const override;
+    int SetCurSel(int index) override;
+    int GetCount() const override;
+    void EnableWindow(int enable) override;
+    void SetOriginStyle(int origin) override;
+    void Clear() override;
+    void ResetContent() override;
+
+    void showPopup() override;
+    void hidePopup() override;
+
+    // The slice the next paint draws, SliceCount when none is drawn.
+    int PaintedSlice() const;
+    QRect SliceRect(int slice) const { return m_slices[slice].rect; }
+    bool SliceSet(int slice) const { return m_slices[slice].set != 0; }
+    bool SliceStretch(int slice) const { return m_slices[slice].stretch != 0; }
+    int State() const { return m_state; }
+    bool PopupOpen() const { return m_popupOpen != 0; }
+    // Where the current text goes: room for the arrow is kept at the right.
+    QRect TextRect() const;
+
+public slots:
+    void OnSelectChanged(int nIndex);
+
+protected:
+    void paintEvent(QPaintEvent* e) override;
+    void mousePressEvent(QMouseEvent* e) override;
+    void mouseReleaseEvent(QMouseEvent* e) override;
+    void enterEvent(QEnterEvent* e) override;
+    void leaveEvent(QEvent* e) override;
+    void focusInEvent(QFocusEvent* e) override;
+    void wheelEvent(QWheelEvent* e) override;
+
+private:
+    struct SliceInfo {
+        QRect rect;
+        int set = 0;
+        int stretch = 0;
+    };
+
+    void Connect();
+    void Disconnect();
+    bool PopupActive() const;
+
+    SliceInfo m_slices[SliceCount];
+    int m_state;
+    QPixmap m_image;
+    int m_popupOpen;
+    int m_originStyle;
+    QCommonStyle* m_style;
+    QMetaObject::Connection m_selectConnection;
+};

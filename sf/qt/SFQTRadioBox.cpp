@@ -1,0 +1,391 @@
+#include "SFQTRadioBox.h"
+
+#include "SFEventDispatch.h"
+#include "SFPicFade.h"
+#include "SFQtConvert.h"
+#include "SFSkinParse.h"
+#include "SFWrapMath.h"
+
+#include <QEnterEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPointer>
+#include <QPropertyAnimation>
+#include <QSignalBlocker>
+#include <algorithm>
+
+using sf_detail::WrapAdd;
+using sf_detail::WrapSub;
+
+namespace {
+
+constexpr int kFlagsBase = Qt::TextSingleLine | Qt::AlignVCenter; // 384
+constexpr int kWeightUnset = -1;
+
+} // namespace
+
+CSFQTRadioBox::CSFQTRadioBox(ISFRadioBoxEvent* handler, QWidget* parent)
+    : QRadioButton(parent), CSFRadioBox(handler),
+      m_state(CSFToggleSkin::StateNormal), m_checked(0), m_bkFull(1), m_font(font()),
+      m_fontWeight(kWeightUnset), m_textOffset(0), m_textFlags(kFlagsBase | Qt::AlignHCenter),
+      m_iconAlign(0), m_animation(nullptr), m_opacity(1.0), m_animationEnabled(0), m_expandBg(0),
+      m_tooltipEnabled(0)
+{
+    // Qt's exclusivity would uncheck sibling boxes behind the page's back.
+    setAutoExclusive(false);
+}
+
+CSFQTRadioBox::~CSFQTRadioBox()
+{
+}
+
+int CSFQTRadioBox::Create(const wchar_t* text, unsigned long style, const tagRECT& rect,
+                          void* parent, unsigned int id)
+{
+    setGeometry(SFRectForCreate(rect));
+    const QString label = SFToQString(text);
+    setText(label);
+    m_nID = id;
+    setAutoExclusive(false);
+    setCheckable(true);
+    SyncQtCheck();
+    setParent(SFWidgetFromHandle(parent));
+    SFNameControl(this, "radio", id, label);
+    SFApplyVisibleStyle(this, style);
+    return 1;
+}
+
+void CSFQTRadioBox::SetCursor()
+{
+}
+
+int CSFQTRadioBox::SetSkin(ImageRadioBox* style)
+{
+    if (!m_skin.Load(style))
+        return 0;
+    update();
+    return 1;
+}
+
+void CSFQTRadioBox::ShowWindow(int show)
+{
+    setVisible(show != 0);
+}
+
+void CSFQTRadioBox::MoveWindow(tagRECT* rect)
+{
+    if (rect)
+        MoveWindow(rect->left, rect->top, WrapAdd(WrapSub(rect->right, rect->left), 1),
+                   WrapAdd(WrapSub(rect->bottom, rect->top), 1));
+}
+
+void CSFQTRadioBox::MoveWindow(int x, int y, int w, int h)
+{
+    setGeometry(SFRectFromXYWH(x, y, w, h));
+}
+
+void CSFQTRadioBox::SetCheck(int check)
+{
+    m_state = CSFToggleSkin::StateNormal;
+    m_checked = check != 0 ? 1 : 0;
+    SyncQtCheck();
+    update();
+}
+
+int CSFQTRadioBox::GetCheck() const
+{
+    return m_checked;
+}
+
+int CSFQTRadioBox::GetWindowTextW(wchar_t* buffer, int size) const
+{
+    if (!buffer || size <= 0)
+        return 0;
+    const std::wstring value = text().toStdWString();
+    const int count = std::min(static_cast<int>(value.size()), size);
+    std::copy(value.begin(), value.begin() + count, buffer);
+    return count;
+}
+
+void CSFQTRadioBox::SetWindowTextW(const wchar_t* text)
+{
+    const QString label = SFToQString(text);
+    setText(label);
+    setAccessibleName(label);
+    update();
+}
+
+void CSFQTRadioBox::SetBoldHeavy(int bold)
+{
+    m_fontWeight = bold ? QFont::Bold : QFont::Normal;
+    m_font.setWeight(static_cast<QFont::Weight>(m_fontWeight));
+    update();
+}
+
+void CSFQTRadioBox::SetTextColor(unsigned long color)
+{
+    m_textColor = SFColorFromRef(color);
+    update();
+}
+
+void CSFQTRadioBox::SetTextOffset(int offset)
+{
+    m_textOffset = offset;
+    update();
+}
+
+void CSFQTRadioBox::SetTextAlign(unsigned long flags)
+{
+    m_textFlags = kFlagsBase;
+    if (flags & 0x1)
+        m_textFlags += Qt::AlignHCenter;
+    if (flags & 0x2)
+        m_textFlags += Qt::AlignRight;
+    update();
+}
+
+void CSFQTRadioBox::GetRadioClientRect(tagRECT* rect)
+{
+    if (rect)
+        *rect = SFToTagRectExclusive(this->rect());
+}
+
+void CSFQTRadioBox::GetRadioWindowRect(tagRECT* rect)
+{
+    if (rect)
+        *rect = SFToTagRectExclusive(QRect(mapToGlobal(QPoint(0, 0)), size()));
+}
+
+void CSFQTRadioBox::SetImageInfo(void*, void*)
+{
+}
+
+void CSFQTRadioBox::SetBkColor(unsigned long checked, unsigned long unchecked)
+{
+    m_bkChecked = SFColorFromRef(checked);
+    m_bkUnchecked = SFColorFromRef(unchecked);
+    update();
+}
+
+void CSFQTRadioBox::SetBkRect(bool full)
+{
+    m_bkFull = full ? 1 : 0;
+    update();
+}
+
+void CSFQTRadioBox::SetTooltipEnable(int enable)
+{
+    m_tooltipEnabled = enable;
+}
+
+void CSFQTRadioBox::SetToolTipText(const wchar_t* text)
+{
+    setToolTip(SFToQString(text));
+}
+
+int CSFQTRadioBox::IsWindowVisible()
+{
+    return isVisible() ? 1 : 0;
+}
+
+int CSFQTRadioBox::IsWindow()
+{
+    return 1;
+}
+
+void CSFQTRadioBox::Invalidate(int)
+{
+    update();
+}
+
+void CSFQTRadioBox::SetEnabled(int enable)
+{
+    setEnabled(enable != 0);
+}
+
+void CSFQTRadioBox::EnableAnimation(int enable)
+{
+    m_animationEnabled = enable;
+}
+
+void CSFQTRadioBox::SetExpendBGImge(int expand)
+{
+    m_expandBg = expand;
+    update();
+}
+
+void CSFQTRadioBox::SetIconAlign(unsigned long align)
+{
+    m_iconAlign = static_cast<int>(align);
+    update();
+}
+
+void CSFQTRadioBox::SetPicTransparence(float opacity)
+{
+    m_opacity = opacity;
+    repaint();
+}
+
+void CSFQTRadioBox::OnClicked(bool checked, QPoint pt)
+{
+    // The handler may destroy the box; the parent then hears nothing.
+    QPointer<CSFQTRadioBox> alive(this);
+    if (m_pHandler)
+        m_pHandler->RADIO_OnClicked(checked ? 1 : 0, static_cast<int>(m_nID),
+                                    tagPOINT{ pt.x(), pt.y() },
+                                    static_cast<CSFRadioBox*>(this));
+    if (alive)
+        SFSendCommandEvent(this, m_nID);
+}
+
+void CSFQTRadioBox::OnAnimationPicTransFinished()
+{
+    auto* finished = qobject_cast<QPropertyAnimation*>(sender());
+    if (!finished)
+        finished = m_animation;
+    if (finished == m_animation)
+        m_animation = nullptr;
+    if (finished)
+        finished->deleteLater();
+}
+
+void CSFQTRadioBox::enterEvent(QEnterEvent* e)
+{
+    m_state = CSFToggleSkin::StateHover;
+    RunAnimation();
+    QRadioButton::enterEvent(e);
+    update();
+}
+
+void CSFQTRadioBox::leaveEvent(QEvent* e)
+{
+    m_state = CSFToggleSkin::StateNormal;
+    QRadioButton::leaveEvent(e);
+    update();
+}
+
+void CSFQTRadioBox::mousePressEvent(QMouseEvent* e)
+{
+    m_state = CSFToggleSkin::StatePressed;
+    update();
+    QRadioButton::mousePressEvent(e);
+    // Presses outside Qt's own hit area are still the box's, not the page's.
+    e->accept();
+}
+
+void CSFQTRadioBox::mouseReleaseEvent(QMouseEvent* e)
+{
+    m_state = CSFToggleSkin::StateNormal;
+    const QPoint pt = e->position().toPoint();
+    if (rect().contains(pt)) {
+        m_checked = m_checked ? 0 : 1;
+        SyncQtCheck();
+        QPointer<CSFQTRadioBox> alive(this);
+        OnClicked(m_checked != 0, pt);
+        if (!alive)
+            return;
+    }
+    QRadioButton::mouseReleaseEvent(e);
+    e->accept();
+    update();
+    RunAnimation();
+}
+
+void CSFQTRadioBox::mouseDoubleClickEvent(QMouseEvent* e)
+{
+    e->accept();
+}
+
+void CSFQTRadioBox::paintEvent(QPaintEvent* e)
+{
+    if (!isEnabled())
+        m_state = CSFToggleSkin::StateDisabled;
+    const QPixmap& picture = m_skin.Pick(m_state, m_checked != 0);
+    if (picture.isNull()) {
+        QRadioButton::paintEvent(e);
+        return;
+    }
+    QPainter painter(this);
+    painter.setOpacity(m_opacity);
+    QRect picRect = picture.rect();
+    picRect.translate(0, (height() - picture.height()) >> 1);
+
+    const QColor& background = m_checked ? m_bkChecked : m_bkUnchecked;
+    if (background.isValid()) {
+        if (m_bkFull) {
+            painter.fillRect(rect(), background);
+        } else {
+            const int bottom = m_checked ? height() - 2 : height() - 3;
+            painter.fillRect(QRect(QPoint(picRect.right() + 1, 2), QPoint(width() - 1, bottom)),
+                             background);
+        }
+    }
+
+    painter.setPen(m_textColor.isValid() ? m_textColor : palette().color(QPalette::WindowText));
+    painter.setFont(m_font);
+
+    if (m_expandBg) {
+        for (int x = 0; x < width(); x += picture.width())
+            painter.drawPixmap(x, picRect.top(), picture);
+    } else {
+        if (m_iconAlign == 1) {
+            const int textWidth = QFontMetrics(m_font).horizontalAdvance(text());
+            picRect.moveLeft((width() - m_textOffset - picRect.right() - textWidth - 3) / 2 +
+                             picRect.left());
+        }
+        painter.drawPixmap(picRect.topLeft(), picture);
+    }
+
+    const int textLeft = picRect.right() + m_textOffset + 2;
+    painter.drawText(QRect(textLeft, 0, width() - textLeft, height()), m_textFlags, text());
+}
+
+void CSFQTRadioBox::changeEvent(QEvent* e)
+{
+    if (e->type() == QEvent::FontChange) {
+        // A style sheet or parent font reaches the text; the bold choice stays.
+        m_font = font();
+        if (m_fontWeight != kWeightUnset)
+            m_font.setWeight(static_cast<QFont::Weight>(m_fontWeight));
+    } else if (e->type() == QEvent::EnabledChange && isEnabled() &&
+               m_state == CSFToggleSkin::StateDisabled) {
+        // Painting marks a disabled box; enabled again, it starts normal.
+        m_state = CSFToggleSkin::StateNormal;
+    }
+    QRadioButton::changeEvent(e);
+}
+
+void CSFQTRadioBox::nextCheckState()
+{
+    // m_checked decides; Qt's own toggling on click must not drift from it.
+    SyncQtCheck();
+}
+
+void CSFQTRadioBox::RunAnimation()
+{
+    if (!m_animationEnabled)
+        return;
+    if (m_animation && m_animation->state() == QAbstractAnimation::Running && !isEnabled())
+        return;
+    // Qt stops a running animation of the same property when the next one
+    // starts, and a stopped one never reports finished: retire it here.
+    if (m_animation) {
+        QPropertyAnimation* older = m_animation;
+        m_animation = nullptr;
+        older->stop();
+        older->deleteLater();
+    }
+    QPropertyAnimation* animation = SFCreatePicFade(this);
+    if (!animation)
+        return;
+    connect(animation, &QPropertyAnimation::finished, this,
+            &CSFQTRadioBox::OnAnimationPicTransFinished);
+    m_animation = animation;
+    animation->start(QAbstractAnimation::KeepWhenStopped);
+}
+
+void CSFQTRadioBox::SyncQtCheck()
+{
+    const QSignalBlocker block(this);
+    setChecked(m_checked != 0);
+}

@@ -1,0 +1,277 @@
+#include "SFQTStatic.h"
+
+#include "SFQtConvert.h"
+#include "SFSkinParse.h"
+
+#include <QFontMetrics>
+#include <QPainter>
+#include <QPropertyAnimation>
+#include <algorithm>
+#include <string>
+
+namespace {
+
+constexpr int kDefaultTwinkleMs = 2000;
+
+// Win32 DrawText bits that SetTextAlignFlag reads.
+constexpr unsigned int kDtCenter = 0x1;
+constexpr unsigned int kDtRight = 0x2;
+constexpr unsigned int kDtVCenter = 0x4;
+constexpr unsigned int kDtWordBreak = 0x10;
+constexpr unsigned int kDtSingleLine = 0x20;
+
+} // namespace
+
+CSFQTStatic::CSFQTStatic(ISFStaticEvent* handler, QWidget* parent)
+    : QLabel(parent), CSFStatic(handler), m_textColor(0, 0, 0), m_bold(0),
+      m_textFlags(int(Qt::AlignLeft) | int(Qt::AlignVCenter) | int(Qt::TextSingleLine)), m_fontPixels(12),
+      m_bgEnabled(0), m_textOffset(0), m_wordWrap(0), m_wrapAnywhere(0), m_tooltipEnabled(1),
+      m_twinkleMs(kDefaultTwinkleMs)
+{
+}
+
+CSFQTStatic::~CSFQTStatic()
+{
+    if (m_animation)
+        m_animation->stop();
+}
+
+int CSFQTStatic::Create(const wchar_t* text, unsigned long style, const tagRECT& rect,
+                        void* parent, unsigned int id)
+{
+    const QString label = SFToQString(text);
+    setParent(SFWidgetFromHandle(parent));
+    setText(label);
+    setGeometry(SFRectForCreate(rect));
+    m_nID = id;
+    setFont(PaintFont());
+    GrowToText(PaintFont());
+    SFNameControl(this, "label", id, label);
+    SFApplyVisibleStyle(this, style);
+    return 1;
+}
+
+void CSFQTStatic::SetCursor()
+{
+}
+
+int CSFQTStatic::SetSkin()
+{
+    return 1;
+}
+
+void CSFQTStatic::ShowWindow(int show)
+{
+    setVisible(show != 0);
+}
+
+void CSFQTStatic::MoveWindow(tagRECT* rect)
+{
+    if (rect)
+        setGeometry(SFRectForCreate(*rect));
+}
+
+void CSFQTStatic::MoveWindow(int x, int y, int w, int h)
+{
+    setGeometry(SFRectFromXYWH(x, y, w, h));
+}
+
+int CSFQTStatic::GetStaticText(wchar_t* buffer, int size) const
+{
+    const std::wstring value = text().toStdWString();
+    const int length = static_cast<int>(value.size());
+    if (!buffer || size <= 0)
+        return length;
+    const int copied = std::min(length, size - 1);
+    std::copy_n(value.data(), copied, buffer);
+    buffer[copied] = L'\0';
+    return length;
+}
+
+void CSFQTStatic::SetStaticText(const wchar_t* text)
+{
+    const QString label = SFToQString(text);
+    setText(label);
+    setAccessibleName(label);
+    // Measured with the widget's own font, from where the label stands now.
+    GrowToText(font());
+    update();
+}
+
+void CSFQTStatic::SetTextAlignFlag(unsigned int flags)
+{
+    int result = 0;
+    if (flags & kDtRight)
+        result = Qt::AlignRight;
+    else if (flags & kDtCenter)
+        result = Qt::AlignHCenter;
+    else
+        result = Qt::AlignLeft;
+    if (flags & kDtVCenter)
+        result |= int(Qt::AlignVCenter);
+    if (flags & kDtWordBreak)
+        result = (result & ~int(Qt::TextSingleLine)) | int(Qt::TextWordWrap) | int(Qt::TextDontClip);
+    if (flags & kDtSingleLine)
+        result = (result & ~int(Qt::TextWordWrap)) | int(Qt::TextSingleLine);
+    if (result == 0)
+        result = int(Qt::AlignHCenter) | int(Qt::AlignVCenter);
+    m_textFlags = result;
+    update();
+}
+
+unsigned int CSFQTStatic::GetTextAlignFlag()
+{
+    return static_cast<unsigned int>(m_textFlags);
+}
+
+void CSFQTStatic::SetTextColor(unsigned int color)
+{
+    m_textColor = SFColorFromRef(color);
+    update();
+}
+
+void CSFQTStatic::SetTextBold(int bold)
+{
+    m_bold = bold;
+    setFont(PaintFont());
+    update();
+}
+
+void CSFQTStatic::GetTextSize(int& w, int& h)
+{
+    w = width();
+    h = height();
+}
+
+void CSFQTStatic::SetBgColor(unsigned int color, int enable)
+{
+    m_bgColor = SFColorFromRef(color);
+    m_bgEnabled = enable;
+    update();
+}
+
+void CSFQTStatic::SetTextSize(int pixels)
+{
+    if (pixels > 0) {
+        m_fontPixels = pixels;
+        setFont(PaintFont());
+    }
+    setStyleSheet(QStringLiteral("QLabel {font-size:%1px;}").arg(pixels));
+}
+
+void CSFQTStatic::GetStaticCtrolPos(tagRECT& rect)
+{
+    rect = SFToTagRectInclusive(geometry());
+}
+
+void CSFQTStatic::SetTextOffset(int offset)
+{
+    m_textOffset = offset;
+    update();
+}
+
+void CSFQTStatic::SetWordWrap(int wrap)
+{
+    m_wordWrap = wrap;
+    if (wrap)
+        m_textFlags |= int(Qt::TextWordWrap);
+    else
+        m_textFlags &= ~int(Qt::TextWordWrap);
+    setWordWrap(wrap != 0);
+    update();
+}
+
+int CSFQTStatic::GetWordWrap()
+{
+    return m_wordWrap;
+}
+
+void CSFQTStatic::SetWrapAnywhere(int wrap)
+{
+    m_wrapAnywhere = wrap;
+    if (wrap)
+        m_textFlags |= int(Qt::TextWrapAnywhere);
+    else
+        m_textFlags &= ~int(Qt::TextWrapAnywhere);
+    update();
+}
+
+int CSFQTStatic::GetWrapAnywher()
+{
+    return m_wrapAnywhere;
+}
+
+void CSFQTStatic::SetToolTipText(const wchar_t* text)
+{
+    setToolTip(SFToQString(text));
+}
+
+void CSFQTStatic::SetTooltipEnable(int enable)
+{
+    m_tooltipEnabled = enable;
+}
+
+tagRECT CSFQTStatic::GetGeometry()
+{
+    return SFToTagRectExclusive(geometry());
+}
+
+void CSFQTStatic::StartTwinkle()
+{
+    if (m_animation && m_animation->state() == QAbstractAnimation::Running && !isEnabled())
+        return;
+    if (m_animation) {
+        m_animation->stop();
+        delete m_animation;
+    }
+    auto* animation = new QPropertyAnimation(this, "Color", this);
+    animation->setDuration(m_twinkleMs);
+    animation->setKeyValueAt(0.0, QColor(0, 0, 0, 255));
+    animation->setKeyValueAt(0.5, QColor(0, 0, 0, 0));
+    animation->setKeyValueAt(1.0, QColor(0, 0, 0, 255));
+    animation->setLoopCount(2);
+    m_animation = animation;
+    animation->start();
+}
+
+void CSFQTStatic::SetColorProperty(const QColor& color)
+{
+    m_textColor = color;
+    update();
+}
+
+bool CSFQTStatic::TwinkleRunning() const
+{
+    return m_animation && m_animation->state() == QAbstractAnimation::Running;
+}
+
+void CSFQTStatic::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    if (m_bgEnabled == 1)
+        painter.fillRect(rect(), m_bgColor);
+    painter.setFont(PaintFont());
+    painter.setPen(m_textColor);
+    QRect area = rect();
+    area.setLeft(m_textOffset);
+    painter.drawText(area, m_textFlags, text());
+}
+
+QFont CSFQTStatic::PaintFont() const
+{
+    QFont f = font();
+    f.setWeight(m_bold ? QFont::Bold : QFont::Normal);
+    f.setPixelSize(m_fontPixels);
+    return f;
+}
+
+void CSFQTStatic::GrowToText(const QFont& font)
+{
+    const QRect current = geometry();
+    const QRect bounds = QFontMetrics(font).boundingRect(
+        QRect(0, 0, current.width(), current.height()), m_textFlags, text());
+    const int w = std::max(current.width(), bounds.width());
+    const int h = std::max(current.height(), bounds.height());
+    if (w != current.width() || h != current.height())
+        setGeometry(QRect(current.topLeft(), QSize(w, h)));
+}

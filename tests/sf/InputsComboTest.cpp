@@ -1,0 +1,334 @@
+// The combo box: only a user's choice reaches the handler, the wheel does
+// nothing, and the open slice follows the room below the control.
+
+#include "InputsTestSupport.h"
+#include "SfTestSupport.h"
+
+#include "SFApplication.h"
+#include "SFControlTypes.h"
+#include "SFFactory.h"
+#include "SFQTComboBox.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QImage>
+#include <QPainter>
+#include <QPointer>
+#include <QScreen>
+#include <QTest>
+#include <QWheelEvent>
+#include <functional>
+#include <gtest/gtest.h>
+
+namespace {
+
+const QColor kNormal(255, 0, 0);
+const QColor kNormalEdge(255, 255, 0);
+const QColor kUp(0, 0, 255);
+const QColor kDown(0, 160, 0);
+const QColor kOther(90, 90, 90);
+
+// A strip cut like the table's row combo: normal at 0, open upwards at 26,
+// open downwards at 78, each one pixel larger than its nominal size.
+void WriteComboStrip(const QString& dir)
+{
+    QImage image(131, 105, QImage::Format_ARGB32);
+    image.fill(kOther);
+    QPainter p(&image);
+    p.fillRect(QRect(0, 0, 131, 26), kNormal);
+    p.fillRect(QRect(0, 25, 131, 1), kNormalEdge);
+    p.fillRect(QRect(130, 0, 1, 26), kNormalEdge);
+    p.fillRect(QRect(0, 26, 131, 27), kUp);
+    p.fillRect(QRect(0, 78, 131, 27), kDown);
+    p.end();
+    image.save(dir + QStringLiteral("/strip.png"), "PNG");
+}
+
+ImageComboBoxStyle RowStyle()
+{
+    ImageComboBoxStyle s;
+    s.strImage = L"strip.png";
+    s.strNormal = L"0,0,130,25";
+    s.strHover = L"0,0,130,25";
+    s.strPressedDown = L"0,78,130,26";
+    s.strPressedUp = L"0,26,130,26";
+    s.strDisabled = L"0,26,130,25";
+    s.strSlice6 = L"0,0,130,25";
+    s.strSlice7 = L"0,26,130,25";
+    s.strPressedDownMode = L"stretch";
+    return s;
+}
+
+QColor PixelOf(QWidget* w, int x, int y)
+{
+    return QColor(w->grab().toImage().pixel(x, y));
+}
+
+struct ComboFixture : testing::Test {
+    CTestSkin skin;
+    CInputsHandler handler;
+    std::unique_ptr<CInputsHost> host;
+    CSFQTComboBox* combo = nullptr;
+
+    // The combo is 131 by 26, so that its slice maps one to one.
+    void Build(const QPoint& hostAt = QPoint(50, 50), int items = 4)
+    {
+        WriteComboStrip(skin.Dir());
+        host = std::make_unique<CInputsHost>(QSize(300, 60), hostAt);
+        combo = static_cast<CSFQTComboBox*>(SFCreateComboBox(&handler));
+        combo->Create(SF_WS_VISIBLE, tagRECT{ 10, 10, 141, 36 }, host->Handle(), 0x40);
+        ImageComboBoxStyle style = RowStyle();
+        ASSERT_EQ(combo->SetSkin(&style), 1);
+        for (int i = 0; i < items; ++i)
+            combo->AddString((L"Item " + std::to_wstring(i)).c_str());
+    }
+    void TearDown() override
+    {
+        if (combo && combo->view()->isVisible())
+            combo->hidePopup();
+        SFDestroyControl(static_cast<CSFComboBox*>(combo));
+    }
+
+    void OpenByClick()
+    {
+        QTest::mouseClick(combo, Qt::LeftButton, Qt::NoModifier, QPoint(20, 13));
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(combo->view()->window()));
+    }
+    void ChooseByClick(int row)
+    {
+        QWidget* viewport = combo->view()->viewport();
+        const QRect item =
+            combo->view()->visualRect(combo->model()->index(row, 0)) & viewport->rect();
+        // A freshly opened popup takes no release for a double-click interval;
+        // the plain style gives its list no mouse tracking, so a real user
+        // simply clicks a moment later.
+        QTest::qWait(QApplication::doubleClickInterval() + 50);
+        QTest::mouseClick(viewport, Qt::LeftButton, Qt::NoModifier, item.center());
+    }
+};
+
+TEST_F(ComboFixture, AChoiceInThePopupFiresOnce)
+{
+    Build();
+    OpenByClick();
+    EXPECT_TRUE(combo->PopupOpen());
+    EXPECT_EQ(combo->view()->visualRect(combo->model()->index(1, 0)).height(), 25);
+    ChooseByClick(2);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !combo->view()->isVisible(); }));
+    ASSERT_EQ(handler.Count("select"), 1);
+    EXPECT_EQ(handler.events.back().value, 2);
+    EXPECT_EQ(handler.events.back().id, 0x40u);
+    EXPECT_EQ(handler.events.back().sender, static_cast<CSFComboBox*>(combo));
+    EXPECT_FALSE(combo->PopupOpen());
+    EXPECT_EQ(combo->GetCurSel(), 2);
+}
+
+struct SilentCase {
+    const char* name;
+    std::function<void(CSFComboBox*)> act;
+    int expectedCount;
+    int expectedSel;
+};
+
+void PrintTo(const SilentCase& c, std::ostream* os)
+{
+    *os << c.name;
+}
+
+class ComboSilent : public ComboFixture, public testing::WithParamInterface<SilentCase> {};
+
+TEST_P(ComboSilent, SettersFireNothingAndTheUserStillIsHeard)
+{
+    Build();
+    handler.events.clear();
+    GetParam().act(combo);
+    EXPECT_EQ(handler.Count("select"), 0);
+    EXPECT_EQ(combo->GetCount(), GetParam().expectedCount);
+    EXPECT_EQ(combo->GetCurSel(), GetParam().expectedSel);
+
+    // The connection is back: a key choice of the user is reported.
+    if (combo->GetCount() < 2)
+        combo->AddString(L"more"), combo->AddString(L"more");
+    combo->SetCurSel(0);
+    combo->setFocus();
+    QTest::keyClick(combo, Qt::Key_Down);
+    ASSERT_EQ(handler.Count("select"), 1);
+    EXPECT_EQ(handler.events.back().value, 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Setters, ComboSilent,
+    testing::Values(
+        SilentCase{ "SetCurSel", [](CSFComboBox* c) { c->SetCurSel(3); }, 4, 3 },
+        SilentCase{ "DeleteCurrent", [](CSFComboBox* c) { c->DeleteString(0); }, 3, 0 },
+        SilentCase{ "DeleteBeforeCurrent",
+                    [](CSFComboBox* c) {
+                        c->SetCurSel(2);
+                        c->DeleteString(1);
+                    },
+                    3, 1 },
+        SilentCase{ "Clear", [](CSFComboBox* c) { c->Clear(); }, 0, -1 },
+        SilentCase{ "ResetContent",
+                    [](CSFComboBox* c) {
+                        c->SetCurSel(3);
+                        c->ResetContent();
+                    },
+                    0, -1 },
+        SilentCase{ "AddToEmpty",
+                    [](CSFComboBox* c) {
+                        c->ResetContent();
+                        c->AddString(L"first");
+                    },
+                    1, 0 }),
+    [](const testing::TestParamInfo<SilentCase>& info) { return std::string(info.param.name); });
+
+TEST_F(ComboFixture, BadIndexesGiveMinusOne)
+{
+    Build(QPoint(50, 50), 3);
+    combo->SetCurSel(1);
+    wchar_t buffer[32] = {};
+    EXPECT_EQ(combo->DeleteString(3), -1);
+    EXPECT_EQ(combo->DeleteString(static_cast<unsigned int>(-1)), -1);
+    EXPECT_EQ(combo->GetLBText(-1, buffer), -1);
+    EXPECT_EQ(combo->GetLBText(3, buffer), -1);
+    EXPECT_EQ(combo->SetCurSel(-1), -1);
+    EXPECT_EQ(combo->SetCurSel(3), -1);
+    EXPECT_EQ(combo->GetCurSel(), 1);
+    EXPECT_EQ(combo->GetCount(), 3);
+
+    EXPECT_EQ(combo->GetLBText(2, buffer), 6);
+    EXPECT_EQ(std::wstring(buffer), L"Item 2");
+    EXPECT_EQ(combo->SetCurSel(2), 2);
+    EXPECT_EQ(combo->DeleteString(0), 2);
+    EXPECT_EQ(combo->AddString(L"x"), 2);
+}
+
+TEST_F(ComboFixture, TheWheelChangesNothing)
+{
+    Build();
+    combo->SetCurSel(1);
+    combo->setFocus();
+    const QPointF at(20, 13);
+    for (int delta : { -120, 120, -120 }) {
+        QWheelEvent wheel(at, combo->mapToGlobal(at), QPoint(), QPoint(0, delta), Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(combo, &wheel);
+    }
+    EXPECT_EQ(combo->GetCurSel(), 1);
+    EXPECT_EQ(handler.Count("select"), 0);
+}
+
+TEST_F(ComboFixture, SlicesKeepTheirExtraPixelAndTheStyleSheetIsSet)
+{
+    Build();
+    EXPECT_EQ(combo->SliceRect(CSFQTComboBox::Normal), QRect(QPoint(0, 0), QPoint(130, 25)));
+    EXPECT_EQ(combo->SliceRect(CSFQTComboBox::PressedDown), QRect(QPoint(0, 78), QPoint(130, 104)));
+    EXPECT_TRUE(combo->SliceStretch(CSFQTComboBox::PressedDown));
+    EXPECT_FALSE(combo->SliceStretch(CSFQTComboBox::PressedUp));
+    // One to one: the extra row and column of the cut reach the widget's edge.
+    EXPECT_EQ(PixelOf(combo, 3, 3), kNormal);
+    EXPECT_EQ(PixelOf(combo, 130, 3), kNormalEdge);
+    EXPECT_EQ(PixelOf(combo, 3, 25), kNormalEdge);
+    // Room for the arrow: the widget's height plus one.
+    EXPECT_EQ(combo->TextRect(), QRect(QPoint(0, 0), QPoint(130 - 27, 25)));
+    EXPECT_EQ(combo->styleSheet(),
+              QStringLiteral(
+                  "QComboBox {subcontrol-position: bottom;}"
+                  "QComboBox QAbstractItemView {border: 1px solid darkgray;border-top-width: "
+                  "0px;outline:0px;background-color: rgb(227,227,227);selection-background-color: "
+                  "rgb(132,144,167);subcontrol-origin: content;background-clip:content;position: "
+                  "absolute;}QComboBox QAbstractItemView::item:selected {Background: "
+                  "rgba(255,0,0,50%);}"));
+
+    // Disabled still paints the normal slice.
+    combo->EnableWindow(0);
+    EXPECT_EQ(PixelOf(combo, 3, 3), kNormal);
+    EXPECT_EQ(combo->objectName(), QStringLiteral("combo_64"));
+}
+
+TEST(ComboOrigin, OriginStyleLeavesTheWidgetToQt)
+{
+    CSFQTComboBox combo(nullptr);
+    combo.SetOriginStyle(1);
+    ImageComboBoxStyle style = RowStyle();
+    EXPECT_EQ(combo.SetSkin(&style), 0);
+    EXPECT_EQ(combo.SetSkin(nullptr), 0);
+    EXPECT_TRUE(combo.styleSheet().isEmpty());
+    EXPECT_FALSE(combo.SliceSet(CSFQTComboBox::Normal));
+    EXPECT_EQ(combo.PaintedSlice(), int(CSFQTComboBox::SliceCount));
+}
+
+struct RoomCase {
+    const char* name;
+    bool nearBottom;
+    // Pixels the rows would reach past the screen's bottom.
+    int overhang;
+    int items;
+    int slice;
+};
+
+void PrintTo(const RoomCase& c, std::ostream* os)
+{
+    *os << c.name;
+}
+
+class ComboRoom : public ComboFixture, public testing::WithParamInterface<RoomCase> {};
+
+TEST_P(ComboRoom, OpenSliceFollowsTheRoomBelow)
+{
+    const RoomCase& c = GetParam();
+    const QRect screen = QGuiApplication::primaryScreen()->geometry();
+    // The combo sits 10 below the host's top and is 26 high.
+    const int rows = std::min(c.items, combo ? combo->maxVisibleItems() : 10);
+    const int hostY = c.nearBottom ? screen.bottom() - 36 - rows * 25 + c.overhang : 50;
+    Build(QPoint(50, hostY), c.items);
+    ASSERT_EQ(combo->mapToGlobal(QPoint(0, 0)).y(), hostY + 10);
+    EXPECT_EQ(combo->PaintedSlice(), CSFQTComboBox::Normal);
+    OpenByClick();
+    EXPECT_EQ(combo->PaintedSlice(), c.slice);
+    EXPECT_EQ(PixelOf(combo, 3, 3), c.slice == CSFQTComboBox::PressedUp ? kUp : kDown);
+    combo->hidePopup();
+    EXPECT_EQ(PixelOf(combo, 3, 3), kNormal);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Screen, ComboRoom,
+    testing::Values(RoomCase{ "Top", false, 0, 4, CSFQTComboBox::PressedDown },
+                    RoomCase{ "ExactFit", true, 0, 4, CSFQTComboBox::PressedDown },
+                    RoomCase{ "OnePixelShort", true, 1, 4, CSFQTComboBox::PressedUp },
+                    // Only maxVisibleItems rows count, however many there are.
+                    RoomCase{ "ManyRowsFit", true, 0, 14, CSFQTComboBox::PressedDown },
+                    RoomCase{ "ManyRowsShort", true, 1, 14, CSFQTComboBox::PressedUp }),
+    [](const testing::TestParamInfo<RoomCase>& info) { return std::string(info.param.name); });
+
+} // namespace
+
+namespace {
+
+TEST(ComboLifetime, DestroyedAfterItsPopupWasOpenedFromCode)
+{
+    // The popup's style sheet style leans on the combo's own style while the
+    // combo's children go down.
+    CTestSkin skin;
+    WriteComboStrip(skin.Dir());
+    CInputsHost host;
+    for (int round = 0; round < 2; ++round) {
+        auto* combo = static_cast<CSFQTComboBox*>(SFCreateComboBox(nullptr));
+        // Its own plain style, until a style sheet wraps it.
+        QPointer<QStyle> plain = combo->style();
+        EXPECT_EQ(plain->metaObject()->className(), QByteArray("QCommonStyle"));
+        combo->Create(SF_WS_VISIBLE, tagRECT{ 10, 10, 141, 36 }, host.Handle(), 1);
+        ImageComboBoxStyle style = RowStyle();
+        combo->SetSkin(&style);
+        combo->AddString(L"a");
+        combo->AddString(L"b");
+        combo->showPopup();
+        EXPECT_TRUE(combo->PopupOpen());
+        if (round == 0)
+            combo->hidePopup();
+        SFDestroyControl(static_cast<CSFComboBox*>(combo));
+        EXPECT_TRUE(plain.isNull());
+    }
+}
+
+} // namespace
