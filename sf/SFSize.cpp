@@ -79,26 +79,24 @@ CSFSize CSFSize::operator-() const
     return CSFSize(WrapNeg(cx), WrapNeg(cy));
 }
 
+// Moving a point or a rectangle by a size is moving it by the point of the
+// same values.
 CSFPoint CSFSize::operator+(tagPOINT point) const
 {
-    return CSFPoint(WrapAdd(cx, point.x), WrapAdd(cy, point.y));
+    return CSFPoint(point) + *this;
 }
 
 CSFPoint CSFSize::operator-(tagPOINT point) const
 {
-    return CSFPoint(WrapSub(cx, point.x), WrapSub(cy, point.y));
+    return -CSFPoint(point) + *this;
 }
 
 CSFRect CSFSize::operator+(const tagRECT* lpRect) const
 {
-    CSFRect rect(lpRect);
-    rect.OffsetRect(cx, cy);
-    return rect;
+    return CSFPoint(*this) + lpRect;
 }
 
 CSFRect CSFSize::operator-(const tagRECT* lpRect) const
 {
-    CSFRect rect(lpRect);
-    rect.OffsetRect(WrapNeg(cx), WrapNeg(cy));
-    return rect;
+    return CSFPoint(*this) - lpRect;
 }

@@ -1,17 +1,31 @@
+#include <QAbstractButton>
 #include <QApplication>
+#include <QIcon>
 #include <QLoggingCategory>
+#include <QTimer>
+#include <QWidget>
 #include <string>
 
 #include "ConfigXMLPersistImp.h"
+#include "DialogStyle.h"
 #include "LangString.h"
+#include "MainDlgEventImp.h"
+#include "MainWindowBringUp.h"
 #include "SFApplication.h"
+#include "SFFactory.h"
+#include "SFQtConvert.h"
 #include "VexUISetting.h"
 
 Q_LOGGING_CATEGORY(lcStart, "tallix.start", QtWarningMsg)
 
 namespace {
 
-void LogStartState(const QApplication& app)
+QWidget* MainWidget(CMainDlgEventImp* event)
+{
+    return event ? SFWidgetFromHandle(event->GetUIWnd()) : nullptr;
+}
+
+void LogStartState(const QApplication& app, CMainDlgEventImp* event)
 {
     if (!lcStart().isDebugEnabled())
         return;
@@ -21,6 +35,30 @@ void LogStartState(const QApplication& app)
     qCDebug(lcStart, "recordable percentage %u", g_UISetting.m_nRecordblePersentage);
     qCDebug(lcStart, "product name %s",
             qUtf8Printable(QString::fromWCharArray(GetLangString(L"ProductName", 0))));
+    if (const QWidget* w = MainWidget(event))
+        qCDebug(lcStart, "main window %d by %d %s, title %s", w->width(), w->height(),
+                w->isVisible() ? "shown" : "hidden", qUtf8Printable(w->windowTitle()));
+}
+
+// Desktops match the window to tallix.desktop and show its icon.
+void JoinTheDesktop()
+{
+    QGuiApplication::setDesktopFileName(QStringLiteral("tallix"));
+    QApplication::setWindowIcon(QIcon(g_strSkinPath + QStringLiteral("tallix.png")));
+}
+
+// TALLIX_EXIT_AFTER_START=1, for the tests that run the program: once the
+// event loop runs, click the toolbar's close button as a user would.
+void CloseOnceRunningIfAsked(CMainDlgEventImp* event)
+{
+    if (qEnvironmentVariableIntValue("TALLIX_EXIT_AFTER_START") != 1)
+        return;
+    QWidget* window = MainWidget(event);
+    auto* close = window ? window->findChild<QAbstractButton*>(QStringLiteral("button_2003")) : nullptr;
+    if (close)
+        QTimer::singleShot(0, close, &QAbstractButton::click);
+    else
+        QTimer::singleShot(0, qApp, &QCoreApplication::quit);
 }
 
 } // namespace
@@ -33,15 +71,25 @@ int main(int argc, char** argv)
     std::wstring strAppDir = SFGetAppPath();
     SFSetSkinPath((strAppDir + L"/Bin/Skin/").c_str());
     SFLoadStyleSheet(strAppDir + L"/Tallix_Style.css");
+    JoinTheDesktop();
     ReadLanguageChoice();
 
     g_UISetting.SetPersistent(new CConfigXMLPersistImp(std::string()));
     g_UISetting.Load();
-    LogStartState(app);
 
-    // The main window and its event loop come with the shell; until then
-    // the start sequence ends here.
+    DialogStyle style;
+    CMainDlgEventImp* pMainEvent = nullptr;
+    CSFDialog* pMainDlg = BringUpMainWindow(style, pMainEvent);
+    LogStartState(app, pMainEvent);
+    CloseOnceRunningIfAsked(pMainEvent);
 
+    // The close button ends the loop by closing the last window.
+    app.exec();
+
+    SFDestroyControl(pMainDlg);
+    pMainDlg = nullptr;
     SFUninitUI();
+    delete pMainEvent;
+    pMainEvent = nullptr;
     return 0;
 }

@@ -4,6 +4,7 @@ target_sources(sf PRIVATE
   qt/SFPicFade.cpp
   qt/SFSkinPicture.cpp
   qt/SFToggleSkin.cpp
+  qt/SFQTToggle.cpp
   qt/SFQTButton.cpp
   qt/SFQTRadioBox.cpp
   qt/SFQTCheckBox.cpp)

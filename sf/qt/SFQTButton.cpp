@@ -2,7 +2,6 @@
 
 #include "SFEventDispatch.h"
 #include "SFLog.h"
-#include "SFPicFade.h"
 #include "SFQtConvert.h"
 #include "SFSkinParse.h"
 #include "SFSkinPicture.h"
@@ -12,7 +11,6 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
-#include <QPropertyAnimation>
 #include <algorithm>
 
 namespace {
@@ -34,8 +32,7 @@ CSFQTButton::CSFQTButton(ISFButtonEvent* handler, QWidget* parent)
     : QPushButton(parent), CSFButton(handler),
       m_textFlags(kFlagsCentre), m_elide(3), m_state(StateNormal), m_selected(0),
       m_keepSelected(1), m_textColor(Qt::black), m_textOffsetX(0), m_textOffsetY(0),
-      m_tooltipEnabled(0), m_animation(nullptr), m_opacity(1.0), m_animationEnabled(0),
-      m_iconPos(ICON_POS_STRETCH)
+      m_tooltipEnabled(0), m_fade(this), m_iconPos(ICON_POS_STRETCH)
 {
     connect(this, &QPushButton::clicked, this, &CSFQTButton::OnClicked);
 }
@@ -163,7 +160,7 @@ void CSFQTButton::GetBTNWindowRect(tagRECT* rect)
 
 void CSFQTButton::EnableAnimation(int enable)
 {
-    m_animationEnabled = enable;
+    m_fade.Enable(enable);
 }
 
 bool CSFQTButton::IsEnabled()
@@ -193,7 +190,7 @@ void CSFQTButton::SetSelected(bool selected)
 
 void CSFQTButton::SetPicTransparence(float opacity)
 {
-    m_opacity = opacity;
+    m_fade.SetOpacity(opacity);
     repaint();
 }
 
@@ -224,13 +221,7 @@ void CSFQTButton::OnClicked()
 
 void CSFQTButton::OnAnimationPicTransFinished()
 {
-    auto* finished = qobject_cast<QPropertyAnimation*>(sender());
-    if (!finished)
-        finished = m_animation;
-    if (finished == m_animation)
-        m_animation = nullptr;
-    if (finished)
-        finished->deleteLater();
+    m_fade.Finished(sender());
 }
 
 void CSFQTButton::enterEvent(QEnterEvent* e)
@@ -301,7 +292,7 @@ void CSFQTButton::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     const QPixmap& picture = PictureToPaint();
-    painter.setOpacity(m_opacity);
+    painter.setOpacity(m_fade.Opacity());
     if (!picture.isNull()) {
         if (m_iconPos == ICON_POS_TOPLEFT)
             painter.drawPixmap(0, 0, picture);
@@ -327,25 +318,7 @@ void CSFQTButton::TakeState(int state)
 
 void CSFQTButton::RunAnimation()
 {
-    if (!m_animationEnabled)
-        return;
-    if (m_animation && m_animation->state() == QAbstractAnimation::Running && !isEnabled())
-        return;
-    // Qt stops a running animation of the same property when the next one
-    // starts, and a stopped one never reports finished: retire it here.
-    if (m_animation) {
-        QPropertyAnimation* older = m_animation;
-        m_animation = nullptr;
-        older->stop();
-        older->deleteLater();
-    }
-    QPropertyAnimation* animation = SFCreatePicFade(this);
-    if (!animation)
-        return;
-    connect(animation, &QPropertyAnimation::finished, this,
-            &CSFQTButton::OnAnimationPicTransFinished);
-    m_animation = animation;
-    animation->start(QAbstractAnimation::KeepWhenStopped);
+    m_fade.Run(this, &CSFQTButton::OnAnimationPicTransFinished);
 }
 
 const QPixmap& CSFQTButton::PictureToPaint() const

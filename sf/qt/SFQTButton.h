@@ -3,12 +3,11 @@
 // optional text on top.
 
 #include "SFButton.h"
+#include "SFPicFade.h"
 
 #include <QColor>
 #include <QPixmap>
 #include <QPushButton>
-
-class QPropertyAnimation;
 
 class CSFQTButton : public QPushButton, public CSFButton {
     Q_OBJECT
@@ -44,14 +43,14 @@ public:
     // Marks the page's current button: its idle picture becomes the selected one.
     void SetSelected(bool selected);
 
-    float GetPicTransparence() const { return static_cast<float>(m_opacity); }
+    float GetPicTransparence() const { return static_cast<float>(m_fade.Opacity()); }
     void SetPicTransparence(float opacity);
 
     int State() const { return m_state; }
     bool Selected() const { return m_selected != 0; }
     int TextFlags() const { return m_textFlags; }
     int Elide() const { return m_elide; }
-    QPropertyAnimation* Animation() const { return m_animation; }
+    QPropertyAnimation* Animation() const { return m_fade.Animation(); }
 
 public Q_SLOTS:
     void OnClicked();
@@ -86,8 +85,6 @@ private:
     QPixmap m_picNormal;
     QPixmap m_picDisabled;
     QPixmap m_picSelected;
-    QPropertyAnimation* m_animation;
-    double m_opacity;
-    int m_animationEnabled;
+    CSFPicFade m_fade;
     ICON_POS m_iconPos;
 };

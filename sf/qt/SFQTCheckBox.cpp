@@ -1,20 +1,12 @@
 #include "SFQTCheckBox.h"
 
 #include "SFEventDispatch.h"
-#include "SFQtConvert.h"
-#include "SFWrapMath.h"
 
-#include <QEnterEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
-#include <QSignalBlocker>
 #include <QStyle>
 #include <QStyleOptionButton>
-#include <algorithm>
-
-using sf_detail::WrapAdd;
-using sf_detail::WrapSub;
 
 namespace {
 
@@ -24,86 +16,12 @@ constexpr int kTextFlags = Qt::TextSingleLine | Qt::AlignVCenter | Qt::AlignLeft
 } // namespace
 
 CSFQTCheckBox::CSFQTCheckBox(ISFCheckBoxEvent* handler, QWidget* parent)
-    : QPushButton(parent), CSFCheckBox(handler),
-      m_state(CSFToggleSkin::StateNormal), m_checked(0), m_textFlags(kTextFlags)
+    : CSFQTToggle(handler, parent, "check"), m_textFlags(kTextFlags)
 {
-    setCheckable(true);
 }
 
 CSFQTCheckBox::~CSFQTCheckBox()
 {
-}
-
-int CSFQTCheckBox::Create(const wchar_t* text, unsigned long style, const tagRECT& rect,
-                          void* parent, unsigned int id)
-{
-    setGeometry(SFRectForCreate(rect));
-    const QString label = SFToQString(text);
-    setText(label);
-    m_nID = id;
-    setParent(SFWidgetFromHandle(parent));
-    SFNameControl(this, "check", id, label);
-    SFApplyVisibleStyle(this, style);
-    return 1;
-}
-
-void CSFQTCheckBox::SetCursor()
-{
-}
-
-int CSFQTCheckBox::SetSkin(ImageRadioBox* style)
-{
-    if (!m_skin.Load(style))
-        return 0;
-    update();
-    return 1;
-}
-
-void CSFQTCheckBox::ShowWindow(int show)
-{
-    setVisible(show != 0);
-}
-
-void CSFQTCheckBox::MoveWindow(tagRECT* rect)
-{
-    if (rect)
-        MoveWindow(rect->left, rect->top, WrapAdd(WrapSub(rect->right, rect->left), 1),
-                   WrapAdd(WrapSub(rect->bottom, rect->top), 1));
-}
-
-void CSFQTCheckBox::MoveWindow(int x, int y, int w, int h)
-{
-    setGeometry(SFRectFromXYWH(x, y, w, h));
-}
-
-void CSFQTCheckBox::SetCheck(int check)
-{
-    m_state = CSFToggleSkin::StateNormal;
-    m_checked = check != 0 ? 1 : 0;
-    SyncQtCheck();
-    update();
-}
-
-int CSFQTCheckBox::GetCheck() const
-{
-    return m_checked;
-}
-
-int CSFQTCheckBox::GetWindowTextW(wchar_t* buffer, int size) const
-{
-    if (!buffer || size <= 0)
-        return 0;
-    const std::wstring value = text().toStdWString();
-    const int count = std::min(static_cast<int>(value.size()), size);
-    std::copy(value.begin(), value.begin() + count, buffer);
-    return count;
-}
-
-void CSFQTCheckBox::SetWindowTextW(const wchar_t* text)
-{
-    const QString label = SFToQString(text);
-    setText(label);
-    setAccessibleName(label);
 }
 
 void CSFQTCheckBox::EnableWindow(int enable)
@@ -121,28 +39,11 @@ void CSFQTCheckBox::OnClicked(bool checked, QPoint pt)
         SFSendCommandEvent(this, m_nID);
 }
 
-void CSFQTCheckBox::enterEvent(QEnterEvent* e)
-{
-    m_state = CSFToggleSkin::StateHover;
-    QPushButton::enterEvent(e);
-    update();
-}
-
-void CSFQTCheckBox::leaveEvent(QEvent* e)
-{
-    m_state = CSFToggleSkin::StateNormal;
-    QPushButton::leaveEvent(e);
-    update();
-}
-
 void CSFQTCheckBox::mousePressEvent(QMouseEvent* e)
 {
     if (e->button() == Qt::LeftButton && m_pHandler)
         m_pHandler->BTN_OnLButtonDown();
-    m_state = CSFToggleSkin::StatePressed;
-    update();
-    QPushButton::mousePressEvent(e);
-    e->accept();
+    CSFQTToggle::mousePressEvent(e);
 }
 
 void CSFQTCheckBox::mouseReleaseEvent(QMouseEvent* e)
@@ -151,19 +52,8 @@ void CSFQTCheckBox::mouseReleaseEvent(QMouseEvent* e)
     QPointer<CSFQTCheckBox> alive(this);
     if (m_pHandler)
         m_pHandler->BTN_OnLButtonUp();
-    if (!alive)
-        return;
-    const QPoint pt = e->position().toPoint();
-    if (rect().contains(pt)) {
-        m_checked = m_checked ? 0 : 1;
-        SyncQtCheck();
-        OnClicked(m_checked != 0, pt);
-        if (!alive)
-            return;
-    }
-    QPushButton::mouseReleaseEvent(e);
-    e->accept();
-    update();
+    if (alive)
+        CSFQTToggle::mouseReleaseEvent(e);
 }
 
 void CSFQTCheckBox::mouseMoveEvent(QMouseEvent* e)
@@ -171,11 +61,6 @@ void CSFQTCheckBox::mouseMoveEvent(QMouseEvent* e)
     if ((e->buttons() & Qt::LeftButton) && m_pHandler)
         m_pHandler->BTN_OnMouseMove();
     QPushButton::mouseMoveEvent(e);
-}
-
-void CSFQTCheckBox::mouseDoubleClickEvent(QMouseEvent* e)
-{
-    e->accept();
 }
 
 void CSFQTCheckBox::paintEvent(QPaintEvent*)
@@ -203,16 +88,4 @@ void CSFQTCheckBox::paintEvent(QPaintEvent*)
                                    QPalette::WindowText));
     const int textLeft = boxRect.right() + 1 + 4;
     painter.drawText(QRect(textLeft, 0, width() - textLeft, height()), m_textFlags, text());
-}
-
-void CSFQTCheckBox::nextCheckState()
-{
-    // m_checked decides; Qt's own toggling on click must not drift from it.
-    SyncQtCheck();
-}
-
-void CSFQTCheckBox::SyncQtCheck()
-{
-    const QSignalBlocker block(this);
-    setChecked(m_checked != 0);
 }

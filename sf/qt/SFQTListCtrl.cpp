@@ -284,9 +284,12 @@ int CSFQTListCtrl::InsertItem(int row, const wchar_t* text)
     insertRow(row);
     if (m_rowHeight > 0)
         setRowHeight(row, m_rowHeight);
-    // Rows below moved down, and their controls with them.
-    SyncRegistersFromCells();
-    NameCellPages();
+    // Rows below moved down, and their controls with them; a row added at
+    // the end moves nothing.
+    if (row < rowCount() - 1) {
+        SyncRegistersFromCells();
+        NameCellPages();
+    }
     if (columnCount() > 0) {
         QTableWidgetItem* it = new QTableWidgetItem(SFToQString(text));
         it->setTextAlignment(ColumnAlignment(0));

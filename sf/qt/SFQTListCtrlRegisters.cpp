@@ -117,6 +117,10 @@ bool CSFQTListCtrl::IsHeaderCheck(const void* sender) const
 // Drops the controls of one cell, whose page is about to be replaced.
 void CSFQTListCtrl::ForgetCell(int row, int col)
 {
+    // Controls live only in a cell's page: a cell without one has none, and
+    // a new row is not worth a walk of every register.
+    if (!indexWidget(model()->index(row, col)))
+        return;
     ForEachRegister([this, row, col](auto& reg) {
         for (auto it = reg.begin(); it != reg.end();) {
             const auto found = m_cellControls.constFind(it.key());

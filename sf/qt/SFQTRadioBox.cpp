@@ -1,21 +1,13 @@
 #include "SFQTRadioBox.h"
 
 #include "SFEventDispatch.h"
-#include "SFPicFade.h"
 #include "SFQtConvert.h"
 #include "SFSkinParse.h"
-#include "SFWrapMath.h"
 
 #include <QEnterEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
-#include <QPropertyAnimation>
-#include <QSignalBlocker>
-#include <algorithm>
-
-using sf_detail::WrapAdd;
-using sf_detail::WrapSub;
 
 namespace {
 
@@ -25,11 +17,9 @@ constexpr int kWeightUnset = -1;
 } // namespace
 
 CSFQTRadioBox::CSFQTRadioBox(ISFRadioBoxEvent* handler, QWidget* parent)
-    : QRadioButton(parent), CSFRadioBox(handler),
-      m_state(CSFToggleSkin::StateNormal), m_checked(0), m_bkFull(1), m_font(font()),
+    : CSFQTToggle(handler, parent, "radio"), m_bkFull(1), m_font(font()),
       m_fontWeight(kWeightUnset), m_textOffset(0), m_textFlags(kFlagsBase | Qt::AlignHCenter),
-      m_iconAlign(0), m_animation(nullptr), m_opacity(1.0), m_animationEnabled(0), m_expandBg(0),
-      m_tooltipEnabled(0)
+      m_iconAlign(0), m_fade(this), m_expandBg(0), m_tooltipEnabled(0)
 {
     // Qt's exclusivity would uncheck sibling boxes behind the page's back.
     setAutoExclusive(false);
@@ -37,82 +27,6 @@ CSFQTRadioBox::CSFQTRadioBox(ISFRadioBoxEvent* handler, QWidget* parent)
 
 CSFQTRadioBox::~CSFQTRadioBox()
 {
-}
-
-int CSFQTRadioBox::Create(const wchar_t* text, unsigned long style, const tagRECT& rect,
-                          void* parent, unsigned int id)
-{
-    setGeometry(SFRectForCreate(rect));
-    const QString label = SFToQString(text);
-    setText(label);
-    m_nID = id;
-    setAutoExclusive(false);
-    setCheckable(true);
-    SyncQtCheck();
-    setParent(SFWidgetFromHandle(parent));
-    SFNameControl(this, "radio", id, label);
-    SFApplyVisibleStyle(this, style);
-    return 1;
-}
-
-void CSFQTRadioBox::SetCursor()
-{
-}
-
-int CSFQTRadioBox::SetSkin(ImageRadioBox* style)
-{
-    if (!m_skin.Load(style))
-        return 0;
-    update();
-    return 1;
-}
-
-void CSFQTRadioBox::ShowWindow(int show)
-{
-    setVisible(show != 0);
-}
-
-void CSFQTRadioBox::MoveWindow(tagRECT* rect)
-{
-    if (rect)
-        MoveWindow(rect->left, rect->top, WrapAdd(WrapSub(rect->right, rect->left), 1),
-                   WrapAdd(WrapSub(rect->bottom, rect->top), 1));
-}
-
-void CSFQTRadioBox::MoveWindow(int x, int y, int w, int h)
-{
-    setGeometry(SFRectFromXYWH(x, y, w, h));
-}
-
-void CSFQTRadioBox::SetCheck(int check)
-{
-    m_state = CSFToggleSkin::StateNormal;
-    m_checked = check != 0 ? 1 : 0;
-    SyncQtCheck();
-    update();
-}
-
-int CSFQTRadioBox::GetCheck() const
-{
-    return m_checked;
-}
-
-int CSFQTRadioBox::GetWindowTextW(wchar_t* buffer, int size) const
-{
-    if (!buffer || size <= 0)
-        return 0;
-    const std::wstring value = text().toStdWString();
-    const int count = std::min(static_cast<int>(value.size()), size);
-    std::copy(value.begin(), value.begin() + count, buffer);
-    return count;
-}
-
-void CSFQTRadioBox::SetWindowTextW(const wchar_t* text)
-{
-    const QString label = SFToQString(text);
-    setText(label);
-    setAccessibleName(label);
-    update();
 }
 
 void CSFQTRadioBox::SetBoldHeavy(int bold)
@@ -205,7 +119,7 @@ void CSFQTRadioBox::SetEnabled(int enable)
 
 void CSFQTRadioBox::EnableAnimation(int enable)
 {
-    m_animationEnabled = enable;
+    m_fade.Enable(enable);
 }
 
 void CSFQTRadioBox::SetExpendBGImge(int expand)
@@ -222,7 +136,7 @@ void CSFQTRadioBox::SetIconAlign(unsigned long align)
 
 void CSFQTRadioBox::SetPicTransparence(float opacity)
 {
-    m_opacity = opacity;
+    m_fade.SetOpacity(opacity);
     repaint();
 }
 
@@ -240,60 +154,21 @@ void CSFQTRadioBox::OnClicked(bool checked, QPoint pt)
 
 void CSFQTRadioBox::OnAnimationPicTransFinished()
 {
-    auto* finished = qobject_cast<QPropertyAnimation*>(sender());
-    if (!finished)
-        finished = m_animation;
-    if (finished == m_animation)
-        m_animation = nullptr;
-    if (finished)
-        finished->deleteLater();
+    m_fade.Finished(sender());
 }
 
 void CSFQTRadioBox::enterEvent(QEnterEvent* e)
 {
-    m_state = CSFToggleSkin::StateHover;
+    CSFQTToggle::enterEvent(e);
     RunAnimation();
-    QRadioButton::enterEvent(e);
-    update();
-}
-
-void CSFQTRadioBox::leaveEvent(QEvent* e)
-{
-    m_state = CSFToggleSkin::StateNormal;
-    QRadioButton::leaveEvent(e);
-    update();
-}
-
-void CSFQTRadioBox::mousePressEvent(QMouseEvent* e)
-{
-    m_state = CSFToggleSkin::StatePressed;
-    update();
-    QRadioButton::mousePressEvent(e);
-    // Presses outside Qt's own hit area are still the box's, not the page's.
-    e->accept();
 }
 
 void CSFQTRadioBox::mouseReleaseEvent(QMouseEvent* e)
 {
-    m_state = CSFToggleSkin::StateNormal;
-    const QPoint pt = e->position().toPoint();
-    if (rect().contains(pt)) {
-        m_checked = m_checked ? 0 : 1;
-        SyncQtCheck();
-        QPointer<CSFQTRadioBox> alive(this);
-        OnClicked(m_checked != 0, pt);
-        if (!alive)
-            return;
-    }
-    QRadioButton::mouseReleaseEvent(e);
-    e->accept();
-    update();
-    RunAnimation();
-}
-
-void CSFQTRadioBox::mouseDoubleClickEvent(QMouseEvent* e)
-{
-    e->accept();
+    QPointer<CSFQTRadioBox> alive(this);
+    CSFQTToggle::mouseReleaseEvent(e);
+    if (alive)
+        RunAnimation();
 }
 
 void CSFQTRadioBox::paintEvent(QPaintEvent* e)
@@ -306,7 +181,7 @@ void CSFQTRadioBox::paintEvent(QPaintEvent* e)
         return;
     }
     QPainter painter(this);
-    painter.setOpacity(m_opacity);
+    painter.setOpacity(m_fade.Opacity());
     QRect picRect = picture.rect();
     picRect.translate(0, (height() - picture.height()) >> 1);
 
@@ -355,37 +230,7 @@ void CSFQTRadioBox::changeEvent(QEvent* e)
     QRadioButton::changeEvent(e);
 }
 
-void CSFQTRadioBox::nextCheckState()
-{
-    // m_checked decides; Qt's own toggling on click must not drift from it.
-    SyncQtCheck();
-}
-
 void CSFQTRadioBox::RunAnimation()
 {
-    if (!m_animationEnabled)
-        return;
-    if (m_animation && m_animation->state() == QAbstractAnimation::Running && !isEnabled())
-        return;
-    // Qt stops a running animation of the same property when the next one
-    // starts, and a stopped one never reports finished: retire it here.
-    if (m_animation) {
-        QPropertyAnimation* older = m_animation;
-        m_animation = nullptr;
-        older->stop();
-        older->deleteLater();
-    }
-    QPropertyAnimation* animation = SFCreatePicFade(this);
-    if (!animation)
-        return;
-    connect(animation, &QPropertyAnimation::finished, this,
-            &CSFQTRadioBox::OnAnimationPicTransFinished);
-    m_animation = animation;
-    animation->start(QAbstractAnimation::KeepWhenStopped);
-}
-
-void CSFQTRadioBox::SyncQtCheck()
-{
-    const QSignalBlocker block(this);
-    setChecked(m_checked != 0);
+    m_fade.Run(this, &CSFQTRadioBox::OnAnimationPicTransFinished);
 }

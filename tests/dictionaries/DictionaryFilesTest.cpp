@@ -43,9 +43,11 @@ const char* const kPageKeys[] = {
     "Device", "Devices",
 };
 
-// Texts that are the product's own rather than a label.
+// Texts that are the product's own rather than a label, and captions whose
+// key is too long for the box the panel gives it.
 const std::set<std::string> kOwnTexts = {
     "ProductName", "ProductVer", "CopyrightString", "WebSite", "Devices Tips",
+    "Available Capacity:", "Request Device:", "Add Streaming",
 };
 
 // Keys whose text reads the same in every language.

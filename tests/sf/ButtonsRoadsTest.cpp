@@ -4,7 +4,6 @@
 
 #include "ButtonsTestSupport.h"
 
-#include "SFApplication.h"
 #include "SFCheckBox.h"
 #include "SFFactory.h"
 #include "SFQTButton.h"
@@ -116,8 +115,7 @@ TEST(ButtonsPicture, EveryKindInEveryState)
     const char* out = std::getenv("TALLIX_BUTTONS_SHOT");
     if (!out || !*out)
         GTEST_SKIP() << "TALLIX_BUTTONS_SHOT not set";
-    const QString oldSkin = g_strSkinPath;
-    SFSetSkinPath(TALLIX_APP_DIR L"/Bin/Skin/");
+    CProgramSkin skin;
     Log log;
     CButtonHost host(log, QSize(720, 290));
     ImageButtonStyle text{ L"btn_normal.png", L"btn_hover.png", L"btn_press.png", L"btn_diabled.png", L"", L"", L"", L"" };
@@ -178,7 +176,6 @@ TEST(ButtonsPicture, EveryKindInEveryState)
     ASSERT_TRUE(host.Show());
     QTest::mouseMove(static_cast<CSFQTRadioBox*>(hovered), QPoint(75, 15));
     EXPECT_TRUE(host.Top().grab().save(QString::fromLocal8Bit(out)));
-    g_strSkinPath = oldSkin;
 }
 
 } // namespace

@@ -191,6 +191,9 @@ TEST(CSFPointAndSize, PackedConstructorsAndOperators)
     EXPECT_EQ(CSFSize(5, 6) - CSFSize(1, 1), CSFSize(4, 5));
     EXPECT_EQ(-CSFSize(5, 6), CSFSize(-5, -6));
     EXPECT_TRUE(RectIs(CSFSize(1, 2) + static_cast<const tagRECT*>(r), { 1, 2, 6, 7 }));
+    EXPECT_TRUE(RectIs(CSFSize(1, 2) - static_cast<const tagRECT*>(r), { -1, -2, 4, 3 }));
+    EXPECT_EQ(CSFSize(5, 6) - CSFPoint(1, 8), CSFPoint(4, -2));
+    EXPECT_EQ(CSFSize(INT_MIN, 0) - CSFPoint(1, 0), CSFPoint(INT_MAX, 0));
 
     CSFPoint p(1, 1);
     p += CSFSize(1, 2);

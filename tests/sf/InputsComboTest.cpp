@@ -4,7 +4,6 @@
 #include "InputsTestSupport.h"
 #include "SfTestSupport.h"
 
-#include "SFApplication.h"
 #include "SFControlTypes.h"
 #include "SFFactory.h"
 #include "SFQTComboBox.h"
@@ -44,17 +43,11 @@ void WriteComboStrip(const QString& dir)
     image.save(dir + QStringLiteral("/strip.png"), "PNG");
 }
 
+// The row combo's record, cut from the strip.
 ImageComboBoxStyle RowStyle()
 {
-    ImageComboBoxStyle s;
+    ImageComboBoxStyle s = RowComboStyle();
     s.strImage = L"strip.png";
-    s.strNormal = L"0,0,130,25";
-    s.strHover = L"0,0,130,25";
-    s.strPressedDown = L"0,78,130,26";
-    s.strPressedUp = L"0,26,130,26";
-    s.strDisabled = L"0,26,130,25";
-    s.strSlice6 = L"0,0,130,25";
-    s.strSlice7 = L"0,26,130,25";
     s.strPressedDownMode = L"stretch";
     return s;
 }

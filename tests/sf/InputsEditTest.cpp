@@ -2,8 +2,8 @@
 // text change events for code and user, and text truncation.
 
 #include "InputsTestSupport.h"
+#include "SfTestSupport.h"
 
-#include "SFApplication.h"
 #include "SFControlTypes.h"
 #include "SFFactory.h"
 #include "SFQTEditCtrl.h"
@@ -225,14 +225,14 @@ TEST(EditFacade, CreateReadOnlyPasswordAndSkin)
     edit->SetReadOnly(0);
     EXPECT_FALSE(edit->isReadOnly());
 
-    const QString oldSkin = g_strSkinPath;
-    SFSetSkinPath(TALLIX_APP_DIR L"/Bin/Skin/");
-    EXPECT_EQ(edit->SetSkin(L"bg_time_noal.png"), 1);
-    const QBrush base = edit->palette().brush(QPalette::Disabled, QPalette::Base);
-    EXPECT_FALSE(base.texture().isNull());
-    EXPECT_EQ(edit->SetSkin(L"missing.png"), 1);
-    EXPECT_TRUE(edit->palette().brush(QPalette::Active, QPalette::Base).texture().isNull());
-    g_strSkinPath = oldSkin;
+    {
+        CProgramSkin skin;
+        EXPECT_EQ(edit->SetSkin(L"bg_time_noal.png"), 1);
+        const QBrush base = edit->palette().brush(QPalette::Disabled, QPalette::Base);
+        EXPECT_FALSE(base.texture().isNull());
+        EXPECT_EQ(edit->SetSkin(L"missing.png"), 1);
+        EXPECT_TRUE(edit->palette().brush(QPalette::Active, QPalette::Base).texture().isNull());
+    }
     SFDestroyControl(static_cast<CSFEditCtrl*>(edit));
 }
 

@@ -3,8 +3,8 @@
 // the open popup laid over it) is saved there for a look by eye.
 
 #include "InputsTestSupport.h"
+#include "SfTestSupport.h"
 
-#include "SFApplication.h"
 #include "SFControlTypes.h"
 #include "SFFactory.h"
 #include "SFQTComboBox.h"
@@ -38,20 +38,6 @@ ImageComboBoxStyle PanelCombo()
     return s;
 }
 
-ImageComboBoxStyle RowCombo()
-{
-    ImageComboBoxStyle s;
-    s.strImage = L"comobobox_nor.png";
-    s.strNormal = L"0,0,130,25";
-    s.strHover = L"0,0,130,25";
-    s.strPressedDown = L"0,78,130,26";
-    s.strPressedUp = L"0,26,130,26";
-    s.strDisabled = L"0,26,130,25";
-    s.strSlice6 = L"0,0,130,25";
-    s.strSlice7 = L"0,26,130,25";
-    return s;
-}
-
 class CShowcaseView : public ISFViewEvent {
 public:
     const SF_MSGMAP* GetSFMessageMap() const override
@@ -64,8 +50,7 @@ public:
 
 TEST(Showcase, EveryControlInItsStates)
 {
-    const QString oldSkin = g_strSkinPath;
-    SFSetSkinPath(TALLIX_APP_DIR L"/Bin/Skin/");
+    CProgramSkin skin;
     CInputsHost host(QSize(760, 420), QPoint(20, 20));
     CShowcaseView leftHandler, rightHandler;
     CSFView* left = SFCreateView(&leftHandler);
@@ -106,8 +91,8 @@ TEST(Showcase, EveryControlInItsStates)
     };
     CSFQTComboBox* closed = combo(tagRECT{ 20, 90, 147, 126 }, PanelCombo(), 6, true);
     combo(tagRECT{ 20, 136, 147, 172 }, PanelCombo(), 6, false);
-    CSFQTComboBox* open = combo(tagRECT{ 200, 20, 335, 53 }, RowCombo(), 4, true);
-    combo(tagRECT{ 200, 200, 335, 233 }, RowCombo(), 4, true);
+    CSFQTComboBox* open = combo(tagRECT{ 200, 20, 335, 53 }, RowComboStyle(), 4, true);
+    combo(tagRECT{ 200, 200, 335, 233 }, RowComboStyle(), 4, true);
 
     CSFNumSpiner* spin = SFCreateNumSpiner(nullptr);
     spin->Create(nullptr, tagRECT{ 20, 190, 142, 221 }, l, 0x7EB);
@@ -175,7 +160,6 @@ TEST(Showcase, EveryControlInItsStates)
     SFDestroyControl(spin);
     SFDestroyControl(left);
     SFDestroyControl(right);
-    g_strSkinPath = oldSkin;
 }
 
 } // namespace

@@ -41,13 +41,6 @@ std::vector<int> Range(int n)
     return out;
 }
 
-std::wstring Text(const CSFListCtrl* list, int row, int col)
-{
-    wchar_t buffer[64] = {};
-    list->GetItemText(row, col, buffer, 64);
-    return buffer;
-}
-
 using Strings = std::vector<std::string>;
 
 Strings Items(const QWidget* w)
@@ -59,25 +52,14 @@ Strings Items(const QWidget* w)
     return out;
 }
 
-class ListCells : public testing::Test {
-protected:
-    CProgramSkin skin;
-    CListPage page;
-    CListHost host{ page };
-    CRecordingList* list = host.list;
-
-    void AddRows(int n)
-    {
-        for (int i = 0; i < n; ++i)
-            AddChannelRow(list);
-    }
+class ListCells : public ListFixture {
 };
 
 TEST_F(ListCells, NewRowHoldsItsControlsInTheirFirstState)
 {
     AddRows(1);
     EXPECT_EQ(list->GetItemCount(), 1);
-    EXPECT_EQ(Text(list, 0, 0), L"1");
+    EXPECT_EQ(ItemText(list, 0, 0), L"1");
     EXPECT_EQ(list->rowHeight(0), 45);
 
     QWidget* compression = RowWidget(list, R::CompressionCombos, 0);
@@ -163,7 +145,7 @@ TEST_F(ListCells, GetItemTextReadsTheCellControls)
                   { 3, L"--Environment--" }, { 5, L"--FrameRate--" }, { 6, L"0" },
                   { 7, L"0" } };
     for (const auto& c : cases)
-        EXPECT_EQ(Text(list, 1, c.col), c.text) << c.col;
+        EXPECT_EQ(ItemText(list, 1, c.col), c.text) << c.col;
     wchar_t small[4] = { L'x', L'x', L'x', L'x' };
     EXPECT_EQ(list->GetItemText(1, 2, small, 4), 3);
     EXPECT_EQ(std::wstring(small), L"--C");
@@ -260,7 +242,7 @@ TEST_F(ListCells, DeletingAMiddleRowKeepsEveryRegisterDense)
     }
     EXPECT_EQ(list->indexWidget(list->model()->index(2, 2))->objectName(),
               QStringLiteral("cell_2_2"));
-    EXPECT_EQ(Text(list, 2, 0), L"4"); // renumbering is the page's work
+    EXPECT_EQ(ItemText(list, 2, 0), L"4"); // renumbering is the page's work
     EXPECT_EQ(list->currentRow(), 2);
     EXPECT_EQ(list->currentColumn(), 8);
     FlushDeletes();

@@ -23,25 +23,8 @@ namespace {
 
 using R = CSFQTListCtrl;
 
-std::wstring Text(const CSFListCtrl* list, int row, int col)
-{
-    wchar_t buffer[64] = {};
-    list->GetItemText(row, col, buffer, 64);
-    return buffer;
-}
-
-class ListTable : public testing::Test {
+class ListTable : public ListFixture {
 protected:
-    CProgramSkin skin;
-    CListPage page;
-    CListHost host{ page };
-    CRecordingList* list = host.list;
-
-    void AddRows(int n)
-    {
-        for (int i = 0; i < n; ++i)
-            AddChannelRow(list);
-    }
     QWidget* Viewport() const { return list->viewport(); }
 };
 
@@ -184,7 +167,7 @@ TEST_F(ListTable, SortingKeepsEveryRowWithItsCellPages)
     auto expectOrder = [&](const int (&order)[3]) {
         for (int r = 0; r < 3; ++r) {
             const int from = order[r];
-            EXPECT_EQ(Text(list, r, 0), keys[from]) << r;
+            EXPECT_EQ(ItemText(list, r, 0), keys[from]) << r;
             EXPECT_EQ(RowWidget(list, R::CompressionCombos, r), combos[from].data()) << r;
             EXPECT_EQ(list->RegisterControl(R::ChannelSpiners, r), spiners[from]) << r;
             const QModelIndex cell = list->model()->index(r, 2);
@@ -206,7 +189,7 @@ TEST_F(ListTable, SortingKeepsEveryRowWithItsCellPages)
     QTest::mouseClick(list->horizontalHeader()->viewport(), Qt::LeftButton, Qt::NoModifier,
                       Section(list, 0));
     expectOrder({ 2, 0, 1 });
-    EXPECT_EQ(Text(list, 0, 2), L"smart264");
+    EXPECT_EQ(ItemText(list, 0, 2), L"smart264");
     QTest::mouseClick(list->horizontalHeader()->viewport(), Qt::LeftButton, Qt::NoModifier,
                       Section(list, 0));
     expectOrder({ 1, 0, 2 });

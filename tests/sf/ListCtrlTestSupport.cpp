@@ -126,20 +126,6 @@ ListCtrlStyle ChannelListStyle()
     return s;
 }
 
-ImageComboBoxStyle RowComboStyle()
-{
-    ImageComboBoxStyle s;
-    s.strImage = L"comobobox_nor.png";
-    s.strNormal = L"0,0,130,25";
-    s.strHover = L"0,0,130,25";
-    s.strPressedDown = L"0,78,130,26";
-    s.strPressedUp = L"0,26,130,26";
-    s.strDisabled = L"0,26,130,25";
-    s.strSlice6 = L"0,0,130,25";
-    s.strSlice7 = L"0,26,130,25";
-    return s;
-}
-
 ImageNumSpinerStyle RowSpinerStyle()
 {
     ImageNumSpinerStyle s;
@@ -167,16 +153,6 @@ ImageButtonStyle RowDeleteStyle()
     s.strPressed = L"list_clear_nor.png";
     s.strDisabled = L"list_clear_dis.png";
     return s;
-}
-
-CProgramSkin::CProgramSkin() : m_old(g_strSkinPath)
-{
-    SFSetSkinPath(TALLIX_APP_DIR L"/Bin/Skin/");
-}
-
-CProgramSkin::~CProgramSkin()
-{
-    g_strSkinPath = m_old;
 }
 
 void AddChannelColumns(CSFListCtrl* list)
@@ -253,4 +229,11 @@ void UserDoubleClick(QWidget* w, const QPoint& pos)
 QPoint CellCentre(const CSFQTListCtrl* list, int row, int col)
 {
     return list->visualRect(list->model()->index(row, col)).center();
+}
+
+std::wstring ItemText(const CSFListCtrl* list, int row, int col)
+{
+    wchar_t buffer[64] = {};
+    list->GetItemText(row, col, buffer, 64);
+    return buffer;
 }

@@ -5,10 +5,12 @@
 #include "ISFListCtrlEvent.h"
 #include "ISFViewEvent.h"
 #include "SFQTListCtrl.h"
+#include "SfTestSupport.h"
 
 #include <QPoint>
 #include <cstdint>
 #include <functional>
+#include <gtest/gtest.h>
 #include <string>
 #include <vector>
 
@@ -72,22 +74,12 @@ public:
     const CellEvent* Last(const std::string& kind) const;
 };
 
-// Skin records of a channel row, as the channel page fills them.
+// Skin records of a channel row, as the channel page fills them (the
+// combo's is RowComboStyle).
 ListCtrlStyle ChannelListStyle();
-ImageComboBoxStyle RowComboStyle();
 ImageNumSpinerStyle RowSpinerStyle();
 ImageRadioBox RowAudioStyle();
 ImageButtonStyle RowDeleteStyle();
-
-// Points the skin path at the generated skin for the life of the object.
-class CProgramSkin {
-public:
-    CProgramSkin();
-    ~CProgramSkin();
-
-private:
-    QString m_old;
-};
 
 // The nine columns of the channel table, with their widths.
 void AddChannelColumns(CSFListCtrl* list);
@@ -110,3 +102,23 @@ QWidget* RowWidget(const CSFQTListCtrl* list, CSFQTListCtrl::Register reg, int r
 void UserDoubleClick(QWidget* w, const QPoint& pos);
 // Centre of a cell in viewport coordinates.
 QPoint CellCentre(const CSFQTListCtrl* list, int row, int col);
+// The text of a cell, as a page reads it.
+std::wstring ItemText(const CSFListCtrl* list, int row, int col);
+
+// A list control on its page, skinned as the program skins it.
+class ListFixture : public testing::Test {
+protected:
+    explicit ListFixture(const QSize& size = QSize(1100, 420)) : host(page, size) {}
+
+    // Appends n rows as the channel page does.
+    void AddRows(int n)
+    {
+        for (int i = 0; i < n; ++i)
+            AddChannelRow(list);
+    }
+
+    CProgramSkin skin;
+    CListPage page;
+    CListHost host;
+    CRecordingList* list = host.list;
+};

@@ -17,13 +17,6 @@
 
 namespace {
 
-std::wstring Text(const CSFListCtrl* list, int row, int col)
-{
-    wchar_t buffer[64] = {};
-    list->GetItemText(row, col, buffer, 64);
-    return buffer;
-}
-
 template <class T>
 T* CellChild(CSFQTListCtrl* list, int row, int col, const char* name)
 {
@@ -31,12 +24,9 @@ T* CellChild(CSFQTListCtrl* list, int row, int col, const char* name)
     return page ? page->findChild<T*>(QString::fromLatin1(name)) : nullptr;
 }
 
-class ListVariants : public testing::Test {
+class ListVariants : public ListFixture {
 protected:
-    CProgramSkin skin;
-    CListPage page;
-    CListHost host{ page, QSize(1100, 300) };
-    CRecordingList* list = host.list;
+    ListVariants() : ListFixture(QSize(1100, 300)) {}
 
     void SetUp() override
     {
@@ -53,7 +43,7 @@ TEST_F(ListVariants, ProgressEditAndOperateCellsReportLikeTheOthers)
     list->SetProgress(0, 75);
     list->SetProgress(2, 10); // no bar in that row
     ASSERT_TRUE(CellChild<QProgressBar>(list, 0, 2, "progress"));
-    EXPECT_EQ(Text(list, 0, 2), L"75");
+    EXPECT_EQ(ItemText(list, 0, 2), L"75");
 
     list->SetItemText(1, 3, L"edit me");
     list->SetItemEdit(1, 3);
@@ -62,7 +52,7 @@ TEST_F(ListVariants, ProgressEditAndOperateCellsReportLikeTheOthers)
     EXPECT_EQ(edit->text(), QStringLiteral("edit me"));
     edit->setFocus();
     QTest::keyClicks(edit, QStringLiteral("!"));
-    EXPECT_EQ(Text(list, 1, 3), L"edit me!");
+    EXPECT_EQ(ItemText(list, 1, 3), L"edit me!");
 
     // Two operate buttons share one page; each reports its own id and row.
     list->AddOperateBtn(2, 4, L"Go", 0x900, RowDeleteStyle(), 40, 24);
@@ -95,9 +85,9 @@ TEST_F(ListVariants, ProgressEditAndOperateCellsReportLikeTheOthers)
 
     // Deleting the first row keeps the variant registers in step too.
     list->DeleteItems(0);
-    EXPECT_EQ(Text(list, 0, 3), L"edit me!");
+    EXPECT_EQ(ItemText(list, 0, 3), L"edit me!");
     list->SetProgress(0, 5); // the bar went with its row
-    EXPECT_EQ(Text(list, 0, 2), L"");
+    EXPECT_EQ(ItemText(list, 0, 2), L"");
     QTest::mouseClick(go, Qt::LeftButton, Qt::NoModifier, go->rect().center());
     EXPECT_EQ(page.events.back(), "button:2304/1");
 }

@@ -3,7 +3,7 @@ tallix_add_test(sf_videowindow_layout_tests
   LIBS sf)
 
 tallix_add_test(sf_videowindow_tests
-  SOURCES VideoWindowTest.cpp
+  SOURCES SfTestSupport.cpp VideoWindowTest.cpp
   LIBS sf Qt6::Test
   QT)
 # The tests load the generated skin pictures.

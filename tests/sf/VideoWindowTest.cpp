@@ -2,13 +2,13 @@
 // rectangles, zoom, native handles, user gestures and the preview's use.
 
 #include "ISFVideoWindowEvent.h"
-#include "SFApplication.h"
 #include "SFButton.h"
 #include "SFQTVideoWindow.h"
 #include "SFQTVideoWindowPlayWnd.h"
 #include "SFQTVideoWindowSubWnd.h"
 #include "SFRadioBox.h"
 #include "SFVideoWindowFactory.h"
+#include "SfTestSupport.h"
 
 #include <QImage>
 #include <QPainter>
@@ -19,8 +19,6 @@
 #include <vector>
 
 namespace {
-
-using Log = std::vector<std::string>;
 
 class CLoggingVideoHandler : public ISFVideoWindowEvent {
 public:
@@ -80,15 +78,12 @@ class VideoWindow : public testing::Test {
 protected:
     void SetUp() override
     {
-        m_oldSkinPath = g_strSkinPath;
-        SFSetSkinPath(L"" TALLIX_APP_DIR "/Bin/Skin/");
         m_host = std::make_unique<QWidget>();
         m_host->resize(900, 500);
     }
     void TearDown() override
     {
         m_host.reset();
-        g_strSkinPath = m_oldSkinPath;
     }
 
     // The preview's sequence, with a layout and size of the test's choice.
@@ -113,7 +108,7 @@ protected:
         ASSERT_TRUE(QTest::qWaitForWindowExposed(m_host.get()));
     }
 
-    QString m_oldSkinPath;
+    CProgramSkin m_skin;
     std::unique_ptr<QWidget> m_host;
     CLoggingVideoHandler m_handler;
 };

@@ -38,6 +38,7 @@ void BrandSkins::addTo(std::vector<SkinEntry>& out)
 {
     out.push_back({QStringLiteral("Tallix_LOGO.png"), QSize(300, 59), &BrandSkins::logo});
     out.push_back({QStringLiteral("AboutPic.png"), QSize(359, 59), &BrandSkins::aboutBanner});
+    out.push_back({QStringLiteral("tallix.png"), QSize(256, 256), &BrandSkins::appIcon});
 }
 
 QPainterPath BrandSkins::wordmark(qreal H, qreal* advance)
@@ -223,4 +224,12 @@ void BrandSkins::aboutBanner(QPainter& p, const QSize& size)
     rule.setColorAt(0.0, SkinPalette::accent());
     rule.setColorAt(1.0, SkinShapes::mix(SkinPalette::accent(), SkinPalette::chromeHigh(), 0.8));
     p.fillRect(QRect(0, h - 2, w, 2), rule);
+}
+
+void BrandSkins::appIcon(QPainter& p, const QSize& size)
+{
+    // The toolbar's badge, with the margin desktop icon themes leave around
+    // a square icon so that it sits level with its neighbours.
+    const qreal margin = size.width() / 16.0;
+    badge(p, QRectF(margin, margin, size.width() - 2 * margin, size.height() - 2 * margin));
 }

@@ -9,7 +9,8 @@
 
 class QPainter;
 
-// The product logo on the toolbar and the banner of the About dialog.
+// The product logo on the toolbar, the banner of the About dialog and the
+// application icon that desktops show.
 class BrandSkins
 {
 public:
@@ -22,6 +23,7 @@ public:
 private:
     static void logo(QPainter& p, const QSize& size);
     static void aboutBanner(QPainter& p, const QSize& size);
+    static void appIcon(QPainter& p, const QSize& size);
     static void badge(QPainter& p, const QRectF& rect);
     // Wordmark and product line from the baseline origin; returns the x at
     // which the text ends.

@@ -99,15 +99,17 @@ void WindowSkins::dialogFrame(QPainter& p, const QSize& size)
 void WindowSkins::dialogBackground(QPainter& p, const QSize& size)
 {
     // Stretched under every dialog, and the frame image of the scene preview:
-    // the title band and its edges sit where the frame pieces are cut, and the
-    // edges stop at row 29 so that stretching never shows them in a body.
+    // the title band and its edges sit where the frame pieces are cut. The
+    // edges end with the band: stretched across a dialog's width they turn
+    // two pixels wide, and below the band the frame's one-pixel sides would
+    // not cover them.
     const int w = size.width();
     const int h = size.height();
     p.fillRect(QRect(0, 0, w, h), SkinShapes::mix(SkinPalette::page(), Qt::white, 0.6));
     dialogHeader(p, w);
     SkinShapes::hLine(p, 0, w - 1, 0, SkinPalette::dialogEdge());
-    SkinShapes::vLine(p, 0, 0, 29, SkinPalette::dialogEdge());
-    SkinShapes::vLine(p, w - 1, 0, 29, SkinPalette::dialogEdge());
+    SkinShapes::vLine(p, 0, 0, kDialogTitle - 1, SkinPalette::dialogEdge());
+    SkinShapes::vLine(p, w - 1, 0, kDialogTitle - 1, SkinPalette::dialogEdge());
 }
 
 void WindowSkins::calculatorPanel(QPainter& p, const QSize& size)

@@ -1,0 +1,38 @@
+#include "ScenePreview.h"
+
+#include "DialogStyle.h"
+#include "LangString.h"
+#include "SFDialog.h"
+#include "SFFactory.h"
+#include "SFQtConvert.h"
+#include "ScenePlayWinDlgEventImp.h"
+
+#include <new>
+
+int ShowScenePreview(int scene, void* parent)
+{
+    DialogStyle style;
+    auto* handler = new (std::nothrow) CScenePlayWinDlgEventImp;
+    if (!handler)
+        return 0;
+    handler->GetStyle(style);
+
+    CSFDialog* dlg = SFCreateDialog(handler, SFWidgetFromHandle(parent), 0);
+    if (!dlg) {
+        delete handler;
+        return 0;
+    }
+    handler->SetDlg(dlg);
+    handler->SetScene(scene);
+
+    const wchar_t* key = CScenePlayWinDlgEventImp::SceneTitleKey(scene);
+    dlg->SetSkin(&style);
+    dlg->SetDrawBackGround(1);
+    dlg->Create(key ? GetLangString(key, 0) : L"", nullptr);
+    const int result = dlg->DoModalDlg();
+
+    // The video window goes with the dialog, before its handler does.
+    SFDestroyControl(dlg);
+    delete handler;
+    return result;
+}

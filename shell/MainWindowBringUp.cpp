@@ -1,0 +1,24 @@
+#include "MainWindowBringUp.h"
+
+#include "DialogStyle.h"
+#include "LangString.h"
+#include "MainDlgEventImp.h"
+#include "SFDialog.h"
+#include "SFFactory.h"
+
+CSFDialog* BringUpMainWindow(DialogStyle& style, CMainDlgEventImp*& event)
+{
+    event = new CMainDlgEventImp();
+    event->GetMainDlgStyle(style);
+    CSFDialog* dlg = SFCreateMainWindow(event, nullptr);
+    event->SetMainDlg(dlg);
+    if (!dlg)
+        return nullptr;
+    dlg->SetSkin(&style);
+    // The first lookup of the run: the dictionary loads here.
+    dlg->Create(GetLangString(L"ProductName", 0), nullptr);
+    dlg->MoveWindow(0, 0, 1100, 750);
+    dlg->CenterWindow(nullptr);
+    dlg->ShowWindow(1);
+    return dlg;
+}

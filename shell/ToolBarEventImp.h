@@ -1,0 +1,33 @@
+#pragma once
+// Handler of the toolbar view: the logo and the About, minimise and close
+// buttons that stand in for a title bar.
+
+#include "ISFButtonEvent.h"
+#include "ISFRadioBoxEvent.h"
+#include "ISFViewEvent.h"
+
+class CMainDlgEventImp;
+class CSFButton;
+class CSFPictureCtrl;
+
+class CToolBarEventImp : public ISFViewEvent, public ISFButtonEvent, public ISFRadioBoxEvent {
+    SF_DECLARE_MSGMAP()
+public:
+    explicit CToolBarEventImp(CMainDlgEventImp* pMain);
+    CToolBarEventImp(const CToolBarEventImp&) = delete;
+    CToolBarEventImp& operator=(const CToolBarEventImp&) = delete;
+    ~CToolBarEventImp() override;
+
+    int OnCreate() override;
+    void OnDestroy() override;
+
+    void OnBtnMin();
+    void OnBtnClose();
+    void OnBtnAbout();
+
+    CSFPictureCtrl* m_pLogo;
+    CMainDlgEventImp* m_pMain;
+    CSFButton* m_pBtnClose;
+    CSFButton* m_pBtnMin;
+    CSFButton* m_pBtnAbout;
+};

@@ -1,0 +1,12 @@
+#pragma once
+// A whole channel group by value.
+
+#include "StreamInfo.h"
+
+struct ChannelInfo {
+    int nChannels = 0;
+    StreamInfo stMain;
+    StreamInfo stSub1;
+    StreamInfo stSub2;
+    int nRow = 0; // the row it stands for in the list
+};

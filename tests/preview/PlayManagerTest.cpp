@@ -1,0 +1,189 @@
+// The playback manager against the real library, with every call traced.
+
+#include "PlayManagerUILogic.h"
+#include "PreviewTestSupport.h"
+#include "VexplayTrace.h"
+#include "vexplay.h"
+
+#include <QTest>
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr int kNoPort = CPlayManagerUILogic::NO_PORT;
+
+std::string LongClip()
+{
+    return TALLIX_APP_DIR "/1low.kvf";
+}
+
+class PlayManager : public PreviewTest {
+};
+
+TEST_F(PlayManager, PlayAndStopCallTheLibraryInTheirOrder)
+{
+    PlayWindow window;
+    CPlayManagerUILogic manager;
+    EXPECT_EQ(manager.GetPort(), kNoPort);
+
+    manager.PlayFile(Wide(LongClip()), window.Handle());
+    EXPECT_EQ(VexTrace::Ops(), Join({ { "GetPort" }, kClearOps, { "OpenFile" }, kPlayOps }));
+    const std::vector<VexCall> calls = VexTrace::Calls();
+    for (const VexCall& c : calls) {
+        EXPECT_TRUE(c.ok) << c.op;
+        EXPECT_TRUE(c.guiThread) << c.op;
+    }
+    const int port = manager.GetPort();
+    EXPECT_NE(port, kNoPort);
+    EXPECT_EQ(calls[0].port, port);
+    EXPECT_EQ(calls[5].arg, LongClip());
+    EXPECT_EQ(calls[7].pointer, &manager) << "the callback's user value";
+    EXPECT_EQ(calls[8].pointer, window.Handle());
+    EXPECT_EQ(CPlayManagerUILogic::GetLastFile(), Wide(LongClip()));
+    EXPECT_EQ(CPlayManagerUILogic::GetLastWnd(), window.Handle());
+
+    const std::size_t played = VexTrace::Count();
+    manager.Stop();
+    EXPECT_EQ(VexTrace::Ops(played), Join({ kClearOps, { "CloseFile" } }));
+    EXPECT_EQ(VexTrace::Calls().back().port, port);
+    EXPECT_EQ(manager.GetPort(), kNoPort);
+
+    manager.Stop();
+    EXPECT_EQ(VexTrace::Count(), played + 5) << "a second Stop has no port to close";
+}
+
+TEST_F(PlayManager, MissingClipKeepsThePortWithNothingPlaying)
+{
+    PlayWindow window;
+    CPlayManagerUILogic manager;
+    manager.PlayFile(Wide(TALLIX_APP_DIR "/no such clip.kvf"), window.Handle());
+    EXPECT_EQ(VexTrace::Ops(),
+              Join({ { "GetPort" }, kClearOps, { "OpenFile" }, kClearOps, kPlayOps, kClearOps }));
+    const std::vector<VexCall> calls = VexTrace::Calls();
+    EXPECT_FALSE(calls[5].ok) << "OpenFile";
+    EXPECT_FALSE(calls[12].ok) << "Play";
+    EXPECT_NE(manager.GetPort(), kNoPort) << "the port stays held";
+
+    const std::size_t before = VexTrace::Count();
+    manager.Stop();
+    EXPECT_EQ(VexTrace::Ops(before), Join({ kClearOps, { "CloseFile" } }));
+    EXPECT_EQ(manager.GetPort(), kNoPort);
+}
+
+TEST_F(PlayManager, WithoutAPortNothingElseIsAsked)
+{
+    PlayWindow window;
+    VexTrace::FailGetPort(true);
+    CPlayManagerUILogic manager;
+    manager.PlayFile(Wide(LongClip()), window.Handle());
+    manager.Stop();
+    EXPECT_EQ(VexTrace::Ops(), (std::vector<std::string>{ "GetPort" }));
+    EXPECT_EQ(manager.GetPort(), kNoPort);
+
+    boost::shared_ptr<CPlayManagerUILogic> made = CPlayManagerUILogic::Create();
+    ASSERT_TRUE(made);
+    EXPECT_EQ(made->GetPort(), kNoPort);
+}
+
+TEST_F(PlayManager, ClipEndStartsTheClipOverInTheSameWindow)
+{
+    PlayWindow window;
+    CPlayManagerUILogic manager;
+    const std::string clip = ShortClipDir::ShortClip();
+    manager.PlayFile(Wide(clip), window.Handle());
+    ASSERT_TRUE(WaitFor([] { return SuccessfulPlays() >= 3; })) << "the clip did not loop";
+
+    manager.Stop();
+    const std::size_t stopped = VexTrace::Count();
+    const std::vector<VexCall> calls = VexTrace::Calls();
+    // The first restart, on the library's thread.
+    const std::vector<std::string> restart =
+        Join({ kClearOps, { "CloseFile", "GetPort" }, kClearOps, { "OpenFile" }, kPlayOps });
+    ASSERT_GE(calls.size(), 9 + restart.size());
+    std::vector<std::string> first(VexTrace::Ops(9));
+    first.resize(restart.size());
+    EXPECT_EQ(first, restart);
+    for (std::size_t i = 9; i < 9 + restart.size(); ++i)
+        EXPECT_FALSE(calls[i].guiThread) << calls[i].op;
+    EXPECT_EQ(calls[9 + 10].arg, clip);
+    EXPECT_EQ(calls[9 + restart.size() - 1].pointer, window.Handle());
+    EXPECT_TRUE(calls[9 + restart.size() - 1].ok);
+
+    Idle(500);
+    EXPECT_EQ(VexTrace::Count(), stopped) << "the library was called after Stop";
+    EXPECT_EQ(manager.GetPort(), kNoPort);
+}
+
+TEST_F(PlayManager, StopMeetingTheClipsEndDoesNotWaitForTheRestart)
+{
+    PlayWindow window;
+    CPlayManagerUILogic manager;
+    manager.PlayFile(Wide(ShortClipDir::ShortClip()), window.Handle());
+    const std::size_t played = VexTrace::Count();
+    // The stop holds the manager while the clip ends: the restart has to
+    // give way, as the close waits for it.
+    VexTrace::DelayNext("Cb125", true, 400);
+    {
+        Watchdog watchdog("Stop during the file-end callback", 10000);
+        manager.Stop();
+    }
+    EXPECT_EQ(VexTrace::Ops(played), Join({ kClearOps, { "CloseFile" } }));
+    EXPECT_EQ(manager.GetPort(), kNoPort);
+    Idle(300);
+    EXPECT_EQ(VexTrace::Count(), played + 5);
+}
+
+TEST_F(PlayManager, StopDuringTheRestartClosesTheRestartedPort)
+{
+    PlayWindow window;
+    CPlayManagerUILogic manager;
+    manager.PlayFile(Wide(ShortClipDir::ShortClip()), window.Handle());
+    // Catch the restart between closing its port and taking a new one, and
+    // hold the old port meanwhile so that the restart's port differs.
+    VexTrace::DelayNext("GetPort", false, 300);
+    ASSERT_TRUE(WaitFor([] { return VexTrace::Delaying(); })) << "the clip did not end";
+    int spare = -1;
+    ASSERT_TRUE(vexplay_GetPort(&spare));
+    {
+        Watchdog watchdog("Stop during the restart", 10000);
+        manager.Stop();
+    }
+    const VexCall last = VexTrace::Calls().back();
+    EXPECT_EQ(last.op, "CloseFile");
+    EXPECT_NE(last.port, spare);
+    EXPECT_TRUE(last.ok && last.guiThread);
+    EXPECT_EQ(manager.GetPort(), kNoPort);
+    vexplay_CloseFile(spare);
+    const std::size_t stopped = VexTrace::Count();
+    Idle(400);
+    EXPECT_EQ(VexTrace::Count(), stopped) << "the restarted clip plays on";
+}
+
+TEST_F(PlayManager, DeletingAPlayingManagerStopsItFirst)
+{
+    PlayWindow window;
+    auto* manager = new CPlayManagerUILogic;
+    manager->PlayFile(Wide(ShortClipDir::ShortClip()), window.Handle());
+    ASSERT_TRUE(WaitFor([] { return SuccessfulPlays() >= 2; }));
+    delete manager;
+    const std::size_t deleted = VexTrace::Count();
+    EXPECT_EQ(VexTrace::Calls().back().op, "CloseFile");
+    Idle(400);
+    EXPECT_EQ(VexTrace::Count(), deleted);
+}
+
+TEST_F(PlayManager, TheLaterPreviewOwnsTheStatics)
+{
+    PlayWindow first;
+    PlayWindow second;
+    CPlayManagerUILogic a;
+    a.PlayFile(Wide(TALLIX_APP_DIR "/1low.kvf"), first.Handle());
+    a.Stop();
+    CPlayManagerUILogic b;
+    b.PlayFile(Wide(TALLIX_APP_DIR "/1medium.kvf"), second.Handle());
+    EXPECT_EQ(CPlayManagerUILogic::GetLastFile(), Wide(TALLIX_APP_DIR "/1medium.kvf"));
+    EXPECT_EQ(CPlayManagerUILogic::GetLastWnd(), second.Handle());
+    b.Stop();
+}
+
+} // namespace

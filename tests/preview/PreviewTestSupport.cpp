@@ -1,0 +1,148 @@
+#include "PreviewTestSupport.h"
+
+#include "LangString.h"
+#include "SFApplication.h"
+#include "ScenePreview.h"
+#include "VexplayTrace.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QTest>
+#include <QTimer>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+
+const std::vector<std::string> kClearOps = { "Cb125:null", "FileEnd:null", "Cb157:null", "Cb109:null" };
+const std::vector<std::string> kPlayOps = { "PlayFlag:1", "FileEnd:set", "Play" };
+
+std::vector<std::string> Join(std::initializer_list<std::vector<std::string>> parts)
+{
+    std::vector<std::string> all;
+    for (const auto& part : parts)
+        all.insert(all.end(), part.begin(), part.end());
+    return all;
+}
+
+void PreviewTest::SetUp()
+{
+    m_oldAppDir = g_strAppDir;
+    SFSetSkinPath(QStringLiteral(TALLIX_APP_DIR "/Bin/Skin/").toStdWString().c_str());
+    SFSetLanguageDirForTesting(TALLIX_APP_DIR);
+    SFResetLanguageForTesting();
+    g_nLanguage = 0;
+    QFile css(QStringLiteral(TALLIX_APP_DIR "/Tallix_Style.css"));
+    if (css.open(QIODevice::ReadOnly))
+        qApp->setStyleSheet(QString::fromUtf8(css.readAll()));
+    SetAppDir(QStringLiteral(TALLIX_APP_DIR));
+    VexTrace::Reset();
+}
+
+void PreviewTest::TearDown()
+{
+    g_strAppDir = m_oldAppDir;
+    VexTrace::FailGetPort(false);
+}
+
+void PreviewTest::SetAppDir(const QString& dir)
+{
+    g_strAppDir = dir;
+}
+
+std::wstring PreviewTest::Wide(const std::string& text)
+{
+    return QString::fromStdString(text).toStdWString();
+}
+
+ShortClipDir::ShortClipDir()
+{
+    for (const char* name : { "/1low.kvf", "/1medium.kvf", "/1high.kvf" })
+        QFile::copy(QString::fromStdString(ShortClip()), m_dir.path() + QString::fromLatin1(name));
+}
+
+std::string ShortClipDir::ShortClip()
+{
+    return TALLIX_SOURCE_DIR "/tests/vexplay/data/short.kvf";
+}
+
+PlayWindow::PlayWindow()
+    : m_top(std::make_unique<QWidget>())
+{
+    m_top->resize(340, 260);
+    m_video = new QWidget(m_top.get());
+    m_video->setGeometry(10, 10, 320, 240);
+    m_video->winId();
+    m_top->show();
+    (void)QTest::qWaitForWindowExposed(m_top.get());
+}
+
+void* PlayWindow::Handle() const
+{
+    return reinterpret_cast<void*>(m_video->winId());
+}
+
+int RunPreview(int scene, const std::function<void(QWidget* dialog)>& inside)
+{
+    bool forced = false;
+    QTimer guard;
+    guard.setSingleShot(true);
+    QObject::connect(&guard, &QTimer::timeout, [&forced] {
+        if (QWidget* modal = QApplication::activeModalWidget()) {
+            forced = true;
+            modal->close();
+        }
+    });
+    QTimer::singleShot(0, [&inside, &guard] {
+        guard.start(20000);
+        QWidget* modal = QApplication::activeModalWidget();
+        EXPECT_NE(modal, nullptr) << "no modal dialog";
+        if (modal)
+            inside(modal);
+    });
+    const int result = ShowScenePreview(scene, nullptr);
+    EXPECT_FALSE(forced) << "the dialog had to be closed by force";
+    return result;
+}
+
+bool WaitFor(const std::function<bool()>& done, int timeoutMs)
+{
+    return QTest::qWaitFor(done, timeoutMs);
+}
+
+void Idle(int ms)
+{
+    QElapsedTimer timer;
+    timer.start();
+    while (timer.elapsed() < ms)
+        QTest::qWait(10);
+}
+
+int SuccessfulPlays()
+{
+    int plays = 0;
+    for (const VexCall& c : VexTrace::Calls())
+        plays += c.op == "Play" && c.ok;
+    return plays;
+}
+
+Watchdog::Watchdog(const char* what, int ms)
+    : m_thread([this, what, ms] {
+          std::unique_lock<std::mutex> lock(m_mutex);
+          if (!m_done.wait_for(lock, std::chrono::milliseconds(ms), [this] { return m_finished; })) {
+              std::fprintf(stderr, "Hung: %s\n", what);
+              std::_Exit(3);
+          }
+      })
+{
+}
+
+Watchdog::~Watchdog()
+{
+    {
+        std::lock_guard<std::mutex> lock(m_mutex);
+        m_finished = true;
+    }
+    m_done.notify_all();
+    m_thread.join();
+}

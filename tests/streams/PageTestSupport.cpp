@@ -1,0 +1,372 @@
+#include "PageTestSupport.h"
+
+#include "CalculatorBottom.h"
+#include "DialogStyle.h"
+#include "LangString.h"
+#include "MainDlgEventImp.h"
+#include "MainWindowBringUp.h"
+#include "SFApplication.h"
+#include "SFControlTypes.h"
+#include "SFDialog.h"
+#include "SFFactory.h"
+#include "SFRadioBox.h"
+#include "SFStatic.h"
+#include "SFView.h"
+#include "TallixEventImp.h"
+#include "VexUISetting.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QComboBox>
+#include <QFile>
+#include <QLineEdit>
+#include <QSpinBox>
+#include <QTest>
+#include <QWindow>
+#include <gtest/gtest.h>
+
+namespace {
+
+QString LabelText(CSFStatic* label)
+{
+    if (!label)
+        return QString();
+    wchar_t buffer[512] = {};
+    label->GetStaticText(buffer, 512);
+    return QString::fromWCharArray(buffer);
+}
+
+} // namespace
+
+void UseProgramEnvironment(int language)
+{
+    SFSetSkinPath(TALLIX_APP_DIR L"/Bin/Skin/");
+    static bool styled = false;
+    if (!styled) {
+        QFile sheet(QStringLiteral(TALLIX_APP_DIR "/Tallix_Style.css"));
+        if (sheet.open(QIODevice::ReadOnly))
+            qApp->setStyleSheet(QString::fromUtf8(sheet.readAll()));
+        styled = true;
+    }
+    // What the start leaves without a settings file.
+    g_UISetting.m_nRecordblePersentage = 90;
+    g_nLanguage = language;
+    SFSetLanguageDirForTesting(TALLIX_APP_DIR);
+    SFResetLanguageForTesting();
+}
+
+void UserClick(QWidget* w, QPoint at)
+{
+    if (!w) {
+        ADD_FAILURE() << "no widget to click";
+        return;
+    }
+    if (!w->isVisible())
+        ADD_FAILURE() << "clicking a hidden widget " << w->objectName().toStdString();
+    if (at == QPoint(-1, -1))
+        at = w->rect().center();
+    QWidget* top = w->window();
+    QWindow* window = top->windowHandle();
+    if (!window) {
+        ADD_FAILURE() << "no window under " << w->objectName().toStdString();
+        return;
+    }
+    const QPoint p = w->mapTo(top, at);
+    QTest::mouseMove(window, p);
+    QTest::mouseClick(window, Qt::LeftButton, Qt::NoModifier, p);
+}
+
+CPageDriver::CPageDriver(CTallixEventImp* page) : m_page(page) {}
+
+CSFQTListCtrl* CPageDriver::List() const
+{
+    return dynamic_cast<CSFQTListCtrl*>(m_page->m_pList);
+}
+
+CCalculatorBottom* CPageDriver::Calculator() const
+{
+    return m_page->m_pCalculator;
+}
+
+void CPageDriver::ClickAdd()
+{
+    UserClick(dynamic_cast<QWidget*>(m_page->m_pLabelAdd));
+}
+
+void CPageDriver::ClickClearAll()
+{
+    UserClick(dynamic_cast<QWidget*>(m_page->m_pLabelClear));
+}
+
+void CPageDriver::AddRows(int count)
+{
+    for (int i = 0; i < count; ++i)
+        ClickAdd();
+}
+
+QWidget* CPageDriver::Cell(CSFQTListCtrl::Register reg, int row) const
+{
+    const CSFQTListCtrl* list = List();
+    return list ? list->CellWidget(list->RegisterControl(reg, row)) : nullptr;
+}
+
+QWidget* CPageDriver::Combo(int row, RowColumn col) const
+{
+    switch (col) {
+    case ColCompression:
+        return Cell(CSFQTListCtrl::CompressionCombos, row);
+    case ColEnvironment:
+        return Cell(CSFQTListCtrl::EnvironmentCombos, row);
+    case ColResolution:
+        return Cell(CSFQTListCtrl::ResolutionCombos, row);
+    case ColFrameRate:
+        return Cell(CSFQTListCtrl::FrameRateCombos, row);
+    default:
+        return nullptr;
+    }
+}
+
+void CPageDriver::Choose(int row, RowColumn col, int index)
+{
+    QComboBox* combo = qobject_cast<QComboBox*>(Combo(row, col));
+    if (!combo) {
+        ADD_FAILURE() << "no combo in row " << row << " column " << col;
+        return;
+    }
+    List()->scrollTo(List()->model()->index(row, col));
+    UserClick(combo);
+    QAbstractItemView* view = combo->view();
+    if (!QTest::qWaitFor([view] { return view->isVisible(); }, 2000)) {
+        ADD_FAILURE() << "the popup of row " << row << " column " << col << " did not open";
+        return;
+    }
+    for (int guard = 0; guard < 20 && view->currentIndex().row() != index; ++guard)
+        QTest::keyClick(view, view->currentIndex().row() < index ? Qt::Key_Down : Qt::Key_Up);
+    QTest::keyClick(view, Qt::Key_Return);
+    if (!QTest::qWaitFor([view] { return !view->isVisible(); }, 2000))
+        ADD_FAILURE() << "the popup stayed open";
+}
+
+void CPageDriver::ChooseByMouse(int row, RowColumn col, int index)
+{
+    QComboBox* combo = qobject_cast<QComboBox*>(Combo(row, col));
+    if (!combo) {
+        ADD_FAILURE() << "no combo in row " << row << " column " << col;
+        return;
+    }
+    List()->scrollTo(List()->model()->index(row, col));
+    UserClick(combo);
+    QAbstractItemView* view = combo->view();
+    if (!QTest::qWaitFor([view] { return view->isVisible(); }, 2000)) {
+        ADD_FAILURE() << "the popup did not open";
+        return;
+    }
+    QWidget* viewport = view->viewport();
+    view->scrollTo(combo->model()->index(index, 0));
+    const QRect item = view->visualRect(combo->model()->index(index, 0)) & viewport->rect();
+    // A fresh popup takes no release for a double-click interval.
+    QTest::qWait(QApplication::doubleClickInterval() + 50);
+    UserClick(viewport, item.center());
+    if (!QTest::qWaitFor([view] { return !view->isVisible(); }, 2000))
+        ADD_FAILURE() << "the popup stayed open";
+}
+
+void CPageDriver::TypeInto(QWidget* w, const QString& text)
+{
+    if (!w) {
+        ADD_FAILURE() << "nothing to type into";
+        return;
+    }
+    UserClick(w, QPoint(8, w->height() / 2));
+    QTest::keyClick(w, Qt::Key_A, Qt::ControlModifier);
+    if (text.isEmpty())
+        QTest::keyClick(w, Qt::Key_Delete);
+    else
+        QTest::keyClicks(w, text);
+}
+
+void CPageDriver::TypeCustomRate(int row, const QString& text)
+{
+    List()->scrollTo(List()->model()->index(row, ColFrameRate));
+    TypeInto(Cell(CSFQTListCtrl::CustomRateEdits, row), text);
+}
+
+void CPageDriver::TypeBitrate(int row, const QString& text)
+{
+    List()->scrollTo(List()->model()->index(row, ColBitrate));
+    TypeInto(Cell(CSFQTListCtrl::BitrateEdits, row), text);
+}
+
+void CPageDriver::TypeChannels(int row, const QString& text)
+{
+    List()->scrollTo(List()->model()->index(row, ColChannels));
+    QWidget* spin = Cell(CSFQTListCtrl::ChannelSpiners, row);
+    TypeInto(spin, text);
+    if (spin)
+        QTest::keyClick(spin, Qt::Key_Return);
+}
+
+void CPageDriver::StepChannels(int row, int steps)
+{
+    List()->scrollTo(List()->model()->index(row, ColChannels));
+    QWidget* spin = Cell(CSFQTListCtrl::ChannelSpiners, row);
+    if (!spin) {
+        ADD_FAILURE() << "no spinner in row " << row;
+        return;
+    }
+    UserClick(spin, QPoint(8, spin->height() / 2));
+    for (int i = 0; i < (steps < 0 ? -steps : steps); ++i)
+        QTest::keyClick(spin, steps > 0 ? Qt::Key_Up : Qt::Key_Down);
+}
+
+void CPageDriver::ToggleAudio(int row)
+{
+    List()->scrollTo(List()->model()->index(row, ColAudio));
+    UserClick(Cell(CSFQTListCtrl::AudioChecks, row));
+}
+
+void CPageDriver::ClickDelete(int row)
+{
+    List()->scrollTo(List()->model()->index(row, ColOperation));
+    UserClick(Cell(CSFQTListCtrl::DeleteButtons, row));
+}
+
+void CPageDriver::ClickPreview(int row)
+{
+    List()->scrollTo(List()->model()->index(row, ColEnvironment));
+    UserClick(Cell(CSFQTListCtrl::EnvironmentButtons, row));
+}
+
+void CPageDriver::FillRow(int row, int compression, int scene, int resolution, int frameRate)
+{
+    Choose(row, ColCompression, compression);
+    if (scene > 0)
+        Choose(row, ColEnvironment, scene);
+    Choose(row, ColResolution, resolution);
+    if (frameRate != Entry::Fps30)
+        Choose(row, ColFrameRate, frameRate);
+}
+
+QString CPageDriver::Text(int row, int col) const
+{
+    wchar_t buffer[512] = {};
+    List()->GetItemText(row, col, buffer, 512);
+    return QString::fromWCharArray(buffer);
+}
+
+int CPageDriver::Index(int row, RowColumn col) const
+{
+    const QComboBox* combo = qobject_cast<QComboBox*>(Combo(row, col));
+    return combo ? combo->currentIndex() : -100;
+}
+
+bool CPageDriver::ComboEnabled(int row, RowColumn col) const
+{
+    const QWidget* combo = Combo(row, col);
+    return combo && combo->isEnabled();
+}
+
+bool CPageDriver::PreviewShown(int row) const
+{
+    const QWidget* w = Cell(CSFQTListCtrl::EnvironmentButtons, row);
+    return w && !w->isHidden();
+}
+
+bool CPageDriver::CustomRateShown(int row) const
+{
+    const QWidget* w = Cell(CSFQTListCtrl::CustomRateEdits, row);
+    return w && !w->isHidden();
+}
+
+QString CPageDriver::CustomRateText(int row) const
+{
+    const QLineEdit* edit = qobject_cast<QLineEdit*>(Cell(CSFQTListCtrl::CustomRateEdits, row));
+    return edit ? edit->text() : QStringLiteral("<none>");
+}
+
+int CPageDriver::Rows() const
+{
+    return List()->GetItemCount();
+}
+
+QString CPageDriver::ChannelsLabel() const
+{
+    return LabelText(Calculator()->m_pStaticChannelCount);
+}
+
+QString CPageDriver::BitrateLabel() const
+{
+    return LabelText(Calculator()->m_pStaticBitrate);
+}
+
+QString CPageDriver::ResultCaption() const
+{
+    return LabelText(Calculator()->m_pStaticResultCaption);
+}
+
+QString CPageDriver::ResultValue() const
+{
+    return LabelText(Calculator()->m_pStaticResultValue);
+}
+
+void CPageDriver::ClickMode(unsigned int radioId)
+{
+    UserClick(dynamic_cast<QWidget*>(Calculator()->FindModeRadio(static_cast<int>(radioId))));
+}
+
+CMainWindowUnderTest::CMainWindowUnderTest()
+{
+    DialogStyle style;
+    m_dlg = BringUpMainWindow(style, m_event);
+    if (QWidget* w = Window()) {
+        w->activateWindow();
+        if (!QTest::qWaitForWindowExposed(w))
+            ADD_FAILURE() << "the main window was not exposed";
+    } else {
+        ADD_FAILURE() << "no main window";
+    }
+    m_driver = std::make_unique<CPageDriver>(Page());
+}
+
+CMainWindowUnderTest::~CMainWindowUnderTest()
+{
+    m_driver.reset();
+    SFDestroyControl(m_dlg);
+    delete m_event;
+}
+
+QWidget* CMainWindowUnderTest::Window() const
+{
+    return dynamic_cast<QWidget*>(m_dlg);
+}
+
+CTallixEventImp* CMainWindowUnderTest::Page() const
+{
+    return m_event ? m_event->m_pPageEvent : nullptr;
+}
+
+CPageOnView::CPageOnView(int width, int height)
+{
+    m_page = new CTallixEventImp(nullptr);
+    m_view = SFCreateView(m_page);
+    m_view->Create(L"", L"", SF_WS_VISIBLE, tagRECT{ 0, 0, width - 1, height - 1 }, nullptr, 0);
+    if (QWidget* w = Window()) {
+        w->show();
+        w->activateWindow();
+        if (!QTest::qWaitForWindowExposed(w))
+            ADD_FAILURE() << "the page view was not exposed";
+    }
+    m_driver = std::make_unique<CPageDriver>(m_page);
+}
+
+CPageOnView::~CPageOnView()
+{
+    m_driver.reset();
+    SFDestroyControl(m_view);
+    delete m_page;
+}
+
+QWidget* CPageOnView::Window() const
+{
+    return dynamic_cast<QWidget*>(m_view);
+}

@@ -1,0 +1,138 @@
+#pragma once
+// The real main window with its channel page, offscreen, and a driver that
+// works its rows the way a user does: clicks, popup choices, typing, keys.
+
+#include "SFQTListCtrl.h"
+
+#include <QPoint>
+#include <QString>
+#include <memory>
+
+class CCalculatorBottom;
+class CMainDlgEventImp;
+class CSFDialog;
+class CSFView;
+class CTallixEventImp;
+class QWidget;
+
+// Skin, style sheet, the default settings and the dictionary of the given
+// language; g_nLanguage
+// becomes that language, so 1 also selects area 1.
+void UseProgramEnvironment(int language = 0);
+
+// The same as a member that stands before the window in a fixture.
+struct CProgramEnvironment {
+    explicit CProgramEnvironment(int language = 0) { UseProgramEnvironment(language); }
+};
+
+// A click through the window system at a point of w (its centre by default):
+// the widget under the point receives it, as under a real mouse.
+void UserClick(QWidget* w, QPoint at = QPoint(-1, -1));
+
+// Columns of a channel row.
+enum RowColumn {
+    ColNumber = 0,
+    ColChannels = 1,
+    ColCompression = 2,
+    ColEnvironment = 3,
+    ColResolution = 4,
+    ColFrameRate = 5,
+    ColAudio = 6,
+    ColBitrate = 7,
+    ColOperation = 8
+};
+
+// Combo entries by index, as the row offers them.
+namespace Entry {
+enum Compression { H264 = 1, H265 = 2, Smart264 = 3, Smart265 = 4 };
+enum Resolution { CIF = 1, VGA = 2, D1 = 3, MP1 = 4, MP2 = 6, MP4 = 8, MP8 = 11, MP12 = 12 };
+enum FrameRate { Fps1 = 1, Fps15 = 4, Fps25 = 6, Fps30 = 7, Fps45 = 8, Fps60 = 9, Custom = 10 };
+} // namespace Entry
+
+class CPageDriver {
+public:
+    explicit CPageDriver(CTallixEventImp* page);
+
+    CTallixEventImp* Page() const { return m_page; }
+    CSFQTListCtrl* List() const;
+    CCalculatorBottom* Calculator() const;
+
+    // Buttons above the table, clicked on their words.
+    void ClickAdd();
+    void ClickClearAll();
+    void AddRows(int count);
+
+    // Opens the combo of the cell with a click and picks the entry in its
+    // popup, by keys or by mouse.
+    void Choose(int row, RowColumn col, int index);
+    void ChooseByMouse(int row, RowColumn col, int index);
+    // Clicks into the edit, selects all and types.
+    void TypeCustomRate(int row, const QString& text);
+    void TypeBitrate(int row, const QString& text);
+    void TypeChannels(int row, const QString& text);
+    // Arrow keys on the focused spinner: up for positive steps.
+    void StepChannels(int row, int steps);
+    void ToggleAudio(int row);
+    void ClickDelete(int row);
+    void ClickPreview(int row);
+    // A row as one call: compression, scene (0 none), resolution, frame rate.
+    void FillRow(int row, int compression, int scene, int resolution, int frameRate);
+
+    // What the user sees.
+    QString Text(int row, int col) const;
+    int Index(int row, RowColumn col) const;
+    bool ComboEnabled(int row, RowColumn col) const;
+    bool PreviewShown(int row) const;
+    bool CustomRateShown(int row) const;
+    QString CustomRateText(int row) const;
+    int Rows() const;
+    QString ChannelsLabel() const;
+    QString BitrateLabel() const;
+    QString ResultCaption() const;
+    QString ResultValue() const;
+    // The calculator's mode radios, by id, clicked.
+    void ClickMode(unsigned int radioId);
+
+    QWidget* Cell(CSFQTListCtrl::Register reg, int row) const;
+    QWidget* Combo(int row, RowColumn col) const;
+
+private:
+    void TypeInto(QWidget* w, const QString& text);
+    CTallixEventImp* m_page;
+};
+
+// The program's main window, brought up as main does.
+class CMainWindowUnderTest {
+public:
+    CMainWindowUnderTest();
+    ~CMainWindowUnderTest();
+    CMainWindowUnderTest(const CMainWindowUnderTest&) = delete;
+    CMainWindowUnderTest& operator=(const CMainWindowUnderTest&) = delete;
+
+    QWidget* Window() const;
+    CTallixEventImp* Page() const;
+    CPageDriver& Driver() { return *m_driver; }
+
+private:
+    CMainDlgEventImp* m_event = nullptr;
+    CSFDialog* m_dlg = nullptr;
+    std::unique_ptr<CPageDriver> m_driver;
+};
+
+// The page alone on a shown view of the given size: the host it measures.
+class CPageOnView {
+public:
+    explicit CPageOnView(int width, int height = 690);
+    ~CPageOnView();
+    CPageOnView(const CPageOnView&) = delete;
+    CPageOnView& operator=(const CPageOnView&) = delete;
+
+    QWidget* Window() const;
+    CTallixEventImp* Page() const { return m_page; }
+    CPageDriver& Driver() { return *m_driver; }
+
+private:
+    CTallixEventImp* m_page = nullptr;
+    CSFView* m_view = nullptr;
+    std::unique_ptr<CPageDriver> m_driver;
+};
