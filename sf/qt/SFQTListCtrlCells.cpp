@@ -79,6 +79,25 @@ void CSFQTListCtrl::Enrol(QMap<T*, int>& reg, T* control, int row, int col, unsi
                                                 dynamic_cast<QWidget*>(control) });
 }
 
+namespace {
+
+// The control's widget, named for tests and screen readers; null when the
+// factory gave no widget, in which case the control and its page are freed.
+template <class Control>
+QWidget* AdoptCellControl(Control* control, QWidget* page, const QString& name)
+{
+    QWidget* widget = dynamic_cast<QWidget*>(control);
+    if (!widget) {
+        SFDestroyControl(control);
+        delete page;
+        return nullptr;
+    }
+    widget->setObjectName(name);
+    return widget;
+}
+
+} // namespace
+
 QWidget* CSFQTListCtrl::NewCellPage(int row, int col)
 {
     if (!IsValidCell(row, col))
@@ -137,13 +156,9 @@ void CSFQTListCtrl::SetItemComboBox(int type, int row, int col, int, ImageComboB
     if (!page)
         return;
     CSFComboBox* combo = SFCreateComboBox(this);
-    QWidget* comboWidget = dynamic_cast<QWidget*>(combo);
-    if (!comboWidget) {
-        SFDestroyControl(combo);
-        delete page;
+    QWidget* comboWidget = AdoptCellControl(combo, page, QString::fromLatin1(names[type]));
+    if (!comboWidget)
         return;
-    }
-    comboWidget->setObjectName(QString::fromLatin1(names[type]));
     comboWidget->setMinimumSize(ComboWidth, ComboHeight);
     comboWidget->setMaximumSize(ComboWidth, ComboHeight);
     const unsigned int id = bases[type] + static_cast<unsigned int>(row);
@@ -221,13 +236,9 @@ void CSFQTListCtrl::SetItemNumSpiner(int row, int col, int max, int min, int id,
     if (!page)
         return;
     CSFNumSpiner* spiner = SFCreateNumSpiner(this);
-    QWidget* w = dynamic_cast<QWidget*>(spiner);
-    if (!w) {
-        SFDestroyControl(spiner);
-        delete page;
+    QWidget* w = AdoptCellControl(spiner, page, QStringLiteral("channels"));
+    if (!w)
         return;
-    }
-    w->setObjectName(QStringLiteral("channels"));
     const unsigned int spinerId = static_cast<unsigned int>(id);
     spiner->Create(L"", SizeRect(SpinerWidth, SpinerHeight), Handle(page), spinerId);
     w->setFixedSize(SpinerWidth, SpinerHeight);
@@ -247,13 +258,9 @@ void CSFQTListCtrl::SetItemCheckWidget(int row, int col, ImageRadioBox style)
     if (!page)
         return;
     CSFRadioBox* check = SFCreateRadioBox(this);
-    QWidget* w = dynamic_cast<QWidget*>(check);
-    if (!w) {
-        SFDestroyControl(check);
-        delete page;
+    QWidget* w = AdoptCellControl(check, page, QStringLiteral("audio"));
+    if (!w)
         return;
-    }
-    w->setObjectName(QStringLiteral("audio"));
     const unsigned int id = static_cast<unsigned int>(row);
     check->Create(L"", SF_WS_VISIBLE, SizeRect(CheckWidth, CheckHeight), Handle(page), id);
     w->setFixedSize(CheckWidth, CheckHeight);
@@ -269,13 +276,9 @@ void CSFQTListCtrl::SetItemEditCtrl(int row, int col, int)
     if (!page)
         return;
     CSFEditCtrl* edit = SFCreateEditCtrl(this);
-    QWidget* w = dynamic_cast<QWidget*>(edit);
-    if (!w) {
-        SFDestroyControl(edit);
-        delete page;
+    QWidget* w = AdoptCellControl(edit, page, QStringLiteral("bitrate"));
+    if (!w)
         return;
-    }
-    w->setObjectName(QStringLiteral("bitrate"));
     const unsigned int id = SF_LIST_ID_COMPRESSION + static_cast<unsigned int>(row);
     edit->Create(SF_WS_VISIBLE, SizeRect(BitrateWidth, EditHeight), Handle(page), id, false);
     w->setFixedSize(BitrateWidth, EditHeight);
@@ -375,13 +378,9 @@ void CSFQTListCtrl::SetItemEdit(int row, int col)
     if (!page)
         return;
     CSFEditCtrl* edit = SFCreateEditCtrl(this);
-    QWidget* w = dynamic_cast<QWidget*>(edit);
-    if (!w) {
-        SFDestroyControl(edit);
-        delete page;
+    QWidget* w = AdoptCellControl(edit, page, QStringLiteral("edit"));
+    if (!w)
         return;
-    }
-    w->setObjectName(QStringLiteral("edit"));
     const unsigned int id = static_cast<unsigned int>(row);
     edit->Create(SF_WS_VISIBLE, SizeRect(BitrateWidth, EditHeight), Handle(page), id, false);
     w->setFixedHeight(EditHeight);
