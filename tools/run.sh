@@ -4,7 +4,7 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 
 if [ -z "${DISPLAY:-}" ] && [ -z "${WAYLAND_DISPLAY:-}" ]; then
-  echo "Tallix needs a graphical display and none is set (DISPLAY and WAYLAND_DISPLAY are empty); to run it without one, use a virtual display: xvfb-run -a tools/run.sh" >&2
+  echo "Tallix needs a graphical display and none is set (DISPLAY and WAYLAND_DISPLAY are empty); to run it without one, use a virtual display: tools/install-deps.sh && xvfb-run -a tools/run.sh" >&2
   exit 1
 fi
 
