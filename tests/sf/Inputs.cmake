@@ -1,5 +1,5 @@
 tallix_add_test(sf_inputs_tests
   SOURCES SfTestSupport.cpp InputsTestSupport.cpp InputsEditTest.cpp InputsComboTest.cpp
-          InputsStaticTest.cpp InputsSpinnerTest.cpp InputsViewTest.cpp InputsShowcaseTest.cpp
+          InputsStaticTest.cpp InputsSpinnerTest.cpp
   LIBS sf Qt6::Test
   QT)

@@ -172,101 +172,6 @@ protected:
     QWidget* PageList() const { return dynamic_cast<QWidget*>(Page()->m_pList); }
 };
 
-// ---------------------------------------------------------------- layout
-
-struct PlacedControl {
-    const char* kind;
-    unsigned int id;
-    QRect rect;
-};
-
-TEST_F(EditorFixture, PlacesTheMainRowAndTheControlsAboveIt)
-{
-    CEditorHost editor(Page(), false);
-    const PlacedControl controls[] = {
-        { "combo", 0x7F0, QRect(113, 42, 150, 25) },  { "combo", 0x7F1, QRect(267, 42, 150, 25) },
-        { "combo", 0x7F2, QRect(421, 42, 150, 25) },  { "combo", 0x7F4, QRect(575, 42, 100, 25) },
-        { "edit", 0x80C, QRect(679, 42, 75, 25) },    { "combo", 0x7F7, QRect(113, 77, 150, 25) },
-        { "combo", 0x802, QRect(575, 112, 100, 25) }, { "edit", 0x80E, QRect(679, 112, 75, 25) },
-        { "spinner", 0x7EC, QRect(879, 44, 100, 25) }, { "button", 0x804, QRect(10, 85, 150, 25) },
-        { "button", 0x803, QRect(822, 85, 72, 25) },  { "button", 0xBCC, QRect(904, 85, 72, 25) },
-        { "button", 0x805, QRect(989, 44, 72, 25) },
-    };
-    for (const PlacedControl& c : controls) {
-        QWidget* w = editor.Find<QWidget>(c.kind, c.id);
-        ASSERT_NE(w, nullptr) << c.kind << " " << c.id;
-        EXPECT_EQ(w->geometry(), c.rect) << c.kind << " " << c.id;
-        EXPECT_EQ(w->isVisible(), c.rect.top() < 70 || c.kind == std::string("button"))
-            << c.kind << " " << c.id;
-    }
-
-    QLabel* main = editor.Label(QStringLiteral("Main Stream:"));
-    ASSERT_NE(main, nullptr);
-    EXPECT_EQ(main->pos(), QPoint(10, 42));
-    QLabel* sub2 = editor.Label(QStringLiteral("Sub2 Stream:"));
-    ASSERT_NE(sub2, nullptr);
-    EXPECT_EQ(sub2->pos(), QPoint(10, 112));
-    EXPECT_FALSE(sub2->isVisible());
-    QLabel* channels = editor.Label(QStringLiteral("Channels"));
-    ASSERT_NE(channels, nullptr);
-    EXPECT_EQ(channels->pos(), QPoint(769, 44));
-    EXPECT_EQ(editor.Find<QLineEdit>("edit", 0x80C)->text(), QStringLiteral("0"));
-
-    EXPECT_EQ(editor.Button(0x804)->text(), QStringLiteral("Enable Sub Stream"));
-    EXPECT_EQ(editor.Button(0x803)->text(), QStringLiteral("Add"));
-    EXPECT_EQ(editor.Button(0xBCC)->text(), QStringLiteral("Clear"));
-    EXPECT_EQ(editor.Button(0x805)->text(), QStringLiteral("Ok"));
-
-    QSpinBox* spinner = editor.Spinner();
-    EXPECT_EQ(spinner->minimum(), 1);
-    EXPECT_EQ(spinner->maximum(), 256);
-    EXPECT_EQ(spinner->value(), 1);
-    EXPECT_TRUE(spinner->wrapping());
-}
-
-TEST_F(EditorFixture, FillsTheCombosAndSkinsThemBySize)
-{
-    CEditorHost editor(Page(), true);
-    for (int stream = 0; stream < Editor::StreamCount; ++stream) {
-        QComboBox* compression = editor.Combo(Editor::IdCompression, stream);
-        QComboBox* resolution = editor.Combo(Editor::IdResolution, stream);
-        QComboBox* frameRate = editor.Combo(Editor::IdFrameRate, stream);
-        QComboBox* audio = editor.Combo(Editor::IdAudio, stream);
-        ASSERT_TRUE(compression && resolution && frameRate && audio);
-        EXPECT_TRUE(audio->isVisible());
-        EXPECT_EQ(compression->count(), 3);
-        EXPECT_EQ(compression->itemText(2), QStringLiteral("H.265"));
-        EXPECT_EQ(resolution->count(), 10);
-        EXPECT_EQ(resolution->itemText(0), QStringLiteral("--Resolution--"));
-        EXPECT_EQ(resolution->itemText(8), QStringLiteral("8MP"));
-        EXPECT_EQ(frameRate->count(), 22);
-        EXPECT_EQ(frameRate->itemText(7), QStringLiteral("30"));
-        EXPECT_EQ(frameRate->itemText(10), QStringLiteral("15"));
-        EXPECT_EQ(frameRate->itemText(21), QStringLiteral("1"));
-        EXPECT_EQ(audio->itemText(1), QStringLiteral("Audio ON"));
-
-        const int widths[] = { 150, 100 };
-        CSFQTComboBox* skinned[] = { dynamic_cast<CSFQTComboBox*>(frameRate),
-                                     dynamic_cast<CSFQTComboBox*>(audio) };
-        for (int i = 0; i < 2; ++i) {
-            ASSERT_NE(skinned[i], nullptr);
-            const int w = widths[i];
-            EXPECT_EQ(skinned[i]->SliceRect(CSFQTComboBox::PressedDown),
-                      QRect(QPoint(0, 84), QPoint(w, 112)));
-            EXPECT_EQ(skinned[i]->SliceRect(CSFQTComboBox::PressedUp),
-                      QRect(QPoint(0, 28), QPoint(w, 56)));
-            EXPECT_EQ(skinned[i]->SliceRect(CSFQTComboBox::Disabled),
-                      QRect(QPoint(0, 28), QPoint(w, 55)));
-            EXPECT_TRUE(skinned[i]->SliceSet(CSFQTComboBox::Slice7));
-            EXPECT_FALSE(skinned[i]->SliceStretch(CSFQTComboBox::Normal));
-        }
-    }
-    // Started with the sub rows: the editing layout has no "Clear".
-    EXPECT_EQ(editor.Button(0xBCC), nullptr);
-    EXPECT_EQ(editor.Button(0x804)->text(), QStringLiteral("Disable Sub Stream"));
-    EXPECT_EQ(editor.Button(0x803)->geometry(), QRect(822, 160, 72, 25));
-}
-
 // ---------------------------------------------------------------- rates
 
 struct RateCase {
@@ -385,17 +290,6 @@ TEST_F(EditorFixture, AddStoresThreeRecordsWithTheSubRowsHidden)
     }
 }
 
-TEST_F(EditorFixture, AddReadsNineCharactersOfTheRate)
-{
-    CEditorHost editor(Page(), false);
-    editor.Type(editor.Edit(0), QStringLiteral("1234567890"));
-    CModalWatch watch([](QDialog* dialog) { dialog->reject(); });
-    editor.Click(Editor::IdAdd);
-    EXPECT_EQ(watch.Seen(), 0);
-    ASSERT_EQ(editor->m_mapStreams.size(), 3u);
-    EXPECT_DOUBLE_EQ(editor->m_mapStreams.at(0).dBitrate, 123456789.0);
-}
-
 TEST_F(EditorFixture, SpinnerWrapsAroundItsRange)
 {
     CEditorHost editor(Page(), false);
@@ -440,15 +334,6 @@ TEST_F(EditorFixture, ToggleShowsTheSubRowsMovesTheButtonsAndResizesTheList)
     EXPECT_EQ(PageList()->geometry(), QRect(10, 121, w - 20, 300));
     EXPECT_FALSE(editor.Edit(2)->isVisible());
     EXPECT_FALSE(editor.Label(QStringLiteral("Sub2 Stream:"))->isVisible());
-}
-
-TEST_F(EditorFixture, ToggleWorksWithoutTheClearButton)
-{
-    CEditorHost editor(Page(), true);
-    editor.Click(Editor::IdToggle);
-    EXPECT_FALSE(editor->IsSubStreamsShown());
-    EXPECT_EQ(editor.Button(0x803)->geometry(), QRect(822, 85, 72, 25));
-    EXPECT_EQ(editor.Button(0xBCC), nullptr);
 }
 
 // ---------------------------------------------------------------- page
