@@ -3,7 +3,6 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
-#include <QDir>
 #include <QFile>
 #include <QLineEdit>
 #include <QSpinBox>
@@ -12,13 +11,8 @@
 #include "LangString.h"
 #include "QtWait.h"
 #include "SFApplication.h"
-#include "SFComboBox.h"
-#include "SFEditCtrl.h"
 #include "SFFactory.h"
-#include "SFNumSpiner.h"
 #include "SFQTStatic.h"
-#include "SFRadioBox.h"
-#include "SFStatic.h"
 #include "SFView.h"
 #include "VexUISetting.h"
 
@@ -139,12 +133,13 @@ void CalculatorPanelTest::ClickCalculate()
     QTest::mouseClick(button, Qt::LeftButton, Qt::NoModifier, button->rect().center());
 }
 
-void CalculatorPanelTest::ChooseItem(CSFComboBox* pCombo, int nIndex)
+void CalculatorPanelTest::ChooseText(CSFComboBox* pCombo, const std::string& strItem)
 {
     auto* combo = dynamic_cast<QComboBox*>(pCombo);
     ASSERT_NE(combo, nullptr);
     ASSERT_TRUE(combo->isVisible());
-    ASSERT_LT(nIndex, combo->count());
+    const int nIndex = combo->findText(QString::fromStdString(strItem));
+    ASSERT_GE(nIndex, 0) << strItem;
     QTest::mouseClick(combo, Qt::LeftButton, Qt::NoModifier, QPoint(20, combo->height() / 2));
     ASSERT_TRUE(QTest::qWaitForWindowExposed(combo->view()->window()));
     QAbstractItemView* view = combo->view();
@@ -157,15 +152,6 @@ void CalculatorPanelTest::ChooseItem(CSFComboBox* pCombo, int nIndex)
     QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, rect.center());
     EXPECT_EVENTUALLY(!view->isVisible());
     EXPECT_EQ(combo->currentIndex(), nIndex);
-}
-
-void CalculatorPanelTest::ChooseText(CSFComboBox* pCombo, const std::string& strItem)
-{
-    auto* combo = dynamic_cast<QComboBox*>(pCombo);
-    ASSERT_NE(combo, nullptr);
-    const int nIndex = combo->findText(QString::fromStdString(strItem));
-    ASSERT_GE(nIndex, 0) << strItem;
-    ChooseItem(pCombo, nIndex);
 }
 
 void CalculatorPanelTest::Type(CSFEditCtrl* pEdit, const QString& text)
@@ -221,13 +207,4 @@ bool CalculatorPanelTest::Twinkling() const
 {
     CSFQTStatic* value = Q(m_pPanel->m_pStaticResultValue);
     return value && value->TwinkleRunning();
-}
-
-QString CalculatorShotPath(const QString& name)
-{
-    const QString dir = qEnvironmentVariable("TALLIX_CALCULATOR_SHOTS");
-    if (dir.isEmpty())
-        return QString();
-    QDir().mkpath(dir);
-    return dir + QLatin1Char('/') + name;
 }

@@ -19,12 +19,6 @@
 class CSFQTStatic;
 class CSFView;
 
-template <class Control>
-QWidget* AsWidget(Control* pControl)
-{
-    return dynamic_cast<QWidget*>(pControl);
-}
-
 // Public, so that table rows can drive the panel through the fixture.
 class CalculatorPanelTest : public ::testing::Test {
 public:
@@ -39,7 +33,7 @@ public:
     template <class Control>
     static QWidget* W(Control* pControl)
     {
-        return AsWidget(pControl);
+        return dynamic_cast<QWidget*>(pControl);
     }
     static CSFQTStatic* Q(CSFStatic* pStatic);
 
@@ -59,7 +53,6 @@ public:
     // Real input.
     void ClickRadio(CSFRadioBox* pRadio);
     void ClickCalculate();
-    void ChooseItem(CSFComboBox* pCombo, int nIndex);
     void ChooseText(CSFComboBox* pCombo, const std::string& strItem);
     void Type(CSFEditCtrl* pEdit, const QString& text);
     void ReplaceText(CSFEditCtrl* pEdit, const QString& text);
@@ -75,6 +68,3 @@ public:
     CCalculatorBottom* m_pPanel = nullptr;
     CSFView* m_pView = nullptr;
 };
-
-// Where the panel's pictures go when TALLIX_CALCULATOR_SHOTS names a folder.
-QString CalculatorShotPath(const QString& name);

@@ -70,21 +70,6 @@ TEST_F(PlayManager, MissingClipKeepsThePortWithNothingPlaying)
     EXPECT_EQ(manager.GetPort(), kNoPort);
 }
 
-TEST_F(PlayManager, WithoutAPortNothingElseIsAsked)
-{
-    PlayWindow window;
-    VexTrace::FailGetPort(true);
-    CPlayManagerUILogic manager;
-    manager.PlayFile(Wide(LongClip()), window.Handle());
-    manager.Stop();
-    EXPECT_EQ(VexTrace::Ops(), (std::vector<std::string>{ "GetPort" }));
-    EXPECT_EQ(manager.GetPort(), kNoPort);
-
-    boost::shared_ptr<CPlayManagerUILogic> made = CPlayManagerUILogic::Create();
-    ASSERT_TRUE(made);
-    EXPECT_EQ(made->GetPort(), kNoPort);
-}
-
 TEST_F(PlayManager, ClipEndStartsTheClipOverInTheSameWindow)
 {
     PlayWindow window;
@@ -131,59 +116,6 @@ TEST_F(PlayManager, StopMeetingTheClipsEndDoesNotWaitForTheRestart)
     EXPECT_EQ(manager.GetPort(), kNoPort);
     Idle(300);
     EXPECT_EQ(VexTrace::Count(), played + 5);
-}
-
-TEST_F(PlayManager, StopDuringTheRestartClosesTheRestartedPort)
-{
-    PlayWindow window;
-    CPlayManagerUILogic manager;
-    manager.PlayFile(Wide(ShortClipDir::ShortClip()), window.Handle());
-    // Catch the restart between closing its port and taking a new one, and
-    // hold the old port meanwhile so that the restart's port differs.
-    VexTrace::DelayNext("GetPort", false, 300);
-    ASSERT_TRUE(WaitFor([] { return VexTrace::Delaying(); })) << "the clip did not end";
-    int spare = -1;
-    ASSERT_TRUE(vexplay_GetPort(&spare));
-    {
-        Watchdog watchdog("Stop during the restart", 10000);
-        manager.Stop();
-    }
-    const VexCall last = VexTrace::Calls().back();
-    EXPECT_EQ(last.op, "CloseFile");
-    EXPECT_NE(last.port, spare);
-    EXPECT_TRUE(last.ok && last.guiThread);
-    EXPECT_EQ(manager.GetPort(), kNoPort);
-    vexplay_CloseFile(spare);
-    const std::size_t stopped = VexTrace::Count();
-    Idle(400);
-    EXPECT_EQ(VexTrace::Count(), stopped) << "the restarted clip plays on";
-}
-
-TEST_F(PlayManager, DeletingAPlayingManagerStopsItFirst)
-{
-    PlayWindow window;
-    auto* manager = new CPlayManagerUILogic;
-    manager->PlayFile(Wide(ShortClipDir::ShortClip()), window.Handle());
-    ASSERT_TRUE(WaitFor([] { return SuccessfulPlays() >= 2; }));
-    delete manager;
-    const std::size_t deleted = VexTrace::Count();
-    EXPECT_EQ(VexTrace::Calls().back().op, "CloseFile");
-    Idle(400);
-    EXPECT_EQ(VexTrace::Count(), deleted);
-}
-
-TEST_F(PlayManager, TheLaterPreviewOwnsTheStatics)
-{
-    PlayWindow first;
-    PlayWindow second;
-    CPlayManagerUILogic a;
-    a.PlayFile(Wide(TALLIX_APP_DIR "/1low.kvf"), first.Handle());
-    a.Stop();
-    CPlayManagerUILogic b;
-    b.PlayFile(Wide(TALLIX_APP_DIR "/1medium.kvf"), second.Handle());
-    EXPECT_EQ(CPlayManagerUILogic::GetLastFile(), Wide(TALLIX_APP_DIR "/1medium.kvf"));
-    EXPECT_EQ(CPlayManagerUILogic::GetLastWnd(), second.Handle());
-    b.Stop();
 }
 
 } // namespace

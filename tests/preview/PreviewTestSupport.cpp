@@ -42,7 +42,6 @@ void PreviewTest::SetUp()
 void PreviewTest::TearDown()
 {
     g_strAppDir = m_oldAppDir;
-    VexTrace::FailGetPort(false);
 }
 
 void PreviewTest::SetAppDir(const QString& dir)

@@ -50,7 +50,6 @@ class PlayWindow {
 public:
     PlayWindow();
     void* Handle() const;
-    QWidget* Video() const { return m_video; }
 
 private:
     std::unique_ptr<QWidget> m_top;

@@ -5,7 +5,6 @@
 #include <QCoreApplication>
 #include <QThread>
 
-#include <atomic>
 #include <chrono>
 #include <mutex>
 #include <thread>
@@ -26,11 +25,9 @@ namespace {
 
 std::mutex g_mutex;
 std::vector<VexCall> g_calls;
-std::atomic<bool> g_failGetPort{false};
 std::string g_delayOp;
 bool g_delayGui = false;
 int g_delayMs = 0;
-std::atomic<bool> g_delaying{false};
 
 bool OnGuiThread()
 {
@@ -48,10 +45,8 @@ void MaybeDelay(const char* op)
             return;
         g_delayOp.clear();
         ms = g_delayMs;
-        g_delaying = true;
     }
     std::this_thread::sleep_for(std::chrono::milliseconds(ms));
-    g_delaying = false;
 }
 
 int Record(const char* op, int port, std::string arg, const void* pointer, int result)
@@ -81,7 +76,6 @@ void Reset()
 {
     std::lock_guard<std::mutex> lock(g_mutex);
     g_calls.clear();
-    g_failGetPort = false;
     g_delayOp.clear();
 }
 
@@ -109,22 +103,12 @@ std::vector<std::string> Ops(std::size_t first)
     return ops;
 }
 
-void FailGetPort(bool fail)
-{
-    g_failGetPort = fail;
-}
-
 void DelayNext(const std::string& op, bool onGuiThread, int ms)
 {
     std::lock_guard<std::mutex> lock(g_mutex);
     g_delayOp = op;
     g_delayGui = onGuiThread;
     g_delayMs = ms;
-}
-
-bool Delaying()
-{
-    return g_delaying;
 }
 
 } // namespace VexTrace
@@ -134,8 +118,6 @@ extern "C" {
 int __wrap_vexplay_GetPort(int* port)
 {
     MaybeDelay("GetPort");
-    if (g_failGetPort)
-        return Record("GetPort", -1, std::string(), nullptr, 0);
     const int result = __real_vexplay_GetPort(port);
     return Record("GetPort", port ? *port : -1, std::string(), nullptr, result);
 }

@@ -26,11 +26,7 @@ std::size_t Count();
 // The operations from call first on, with the flag or whether a callback
 // was set: "PlayFlag:1", "FileEnd:set", "Cb125:null".
 std::vector<std::string> Ops(std::size_t first = 0);
-// Makes vexplay_GetPort fail without asking the library.
-void FailGetPort(bool fail);
 // Holds up the next call of op made on the GUI thread (or on another) for ms
-// before it reaches the library; Delaying() is true meanwhile.
 void DelayNext(const std::string& op, bool onGuiThread, int ms);
-bool Delaying();
 
 } // namespace VexTrace

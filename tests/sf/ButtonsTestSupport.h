@@ -3,7 +3,6 @@
 // hears command 7, and a skin of one-colour pictures.
 
 #include "ISFButtonEvent.h"
-#include "ISFCheckBoxEvent.h"
 #include "ISFRadioBoxEvent.h"
 #include "SfTestSupport.h"
 
@@ -41,18 +40,6 @@ public:
     }
     tagPOINT lastPoint{ -1, -1 };
     void* lastSender = nullptr;
-
-private:
-    Log& m_log;
-};
-
-class CCheckLogger : public ISFCheckBoxEvent {
-public:
-    explicit CCheckLogger(Log& log) : m_log(log) {}
-    void Check_OnCheckStateChanged(int id, int state, tagPOINT) override
-    {
-        m_log.push_back("check:" + std::to_string(id) + "=" + std::to_string(state));
-    }
 
 private:
     Log& m_log;

@@ -1,5 +1,5 @@
-// Both roads of a click, the OK and Cancel ids of dialogs, modal runs, keys,
-// timers, UI messages and the order of destruction.
+// Both roads of a click, the OK and Cancel ids of dialogs, modal runs,
+// UI messages and the order of destruction.
 
 #include "SfTestSupport.h"
 
@@ -40,25 +40,6 @@ std::unique_ptr<CSFQTDialog> ShownDialog(CLoggingDialogHandler* handler)
     return dlg;
 }
 
-TEST(WindowConstruction, FlagsAttributesAndHandlerLink)
-{
-    CLoggingDialogHandler handler;
-    CSFQTDialog dlg(&handler);
-    EXPECT_EQ(dlg.windowFlags().toInt(), 0x2803);
-    EXPECT_EQ(handler.GetUIWnd(), SFHandleFromWidget(&dlg));
-    EXPECT_TRUE(dlg.acceptDrops());
-    EXPECT_TRUE(dlg.hasMouseTracking());
-    EXPECT_EQ(dlg.focusPolicy(), Qt::StrongFocus);
-
-    CLoggingDialogHandler mainHandler;
-    CSFQTMainWindow window(&mainHandler);
-    // Qt adds the window type bit to a parentless widget.
-    EXPECT_EQ(window.windowFlags().toInt() & ~int(Qt::Window), 0xE800);
-    EXPECT_EQ(mainHandler.GetUIWnd(), SFHandleFromWidget(&window));
-    EXPECT_EQ(window.IsDlgZoomed(), 0);
-    EXPECT_EQ(dlg.IsDlgZoomed(), 1);
-}
-
 TEST(ClickRoads, DirectCallFirstThenTheViewsMap)
 {
     Log log;
@@ -80,33 +61,6 @@ TEST(ClickRoads, DirectCallFirstThenTheViewsMap)
     EXPECT_EQ(log, (Log{ "btn:7" }));
     SFDestroyControl(view);
     EXPECT_EQ(log.back(), "view:destroy");
-}
-
-TEST(ViewFacade, GeometryVisibilityColourAndMouse)
-{
-    Log log;
-    CLoggingViewHandler handler(log);
-    QWidget top;
-    top.resize(400, 300);
-    top.show();
-    auto* view = static_cast<CSFQTView*>(SFCreateView(&handler));
-    // A view takes its rectangle as it stands.
-    view->Create(L"", L"Page", 0, tagRECT{ 0, 0, 199, 99 }, &top, 3);
-    EXPECT_EQ(view->size(), QSize(200, 100));
-    EXPECT_EQ(view->objectName(), QStringLiteral("view_3"));
-    EXPECT_FALSE(view->isVisible());
-    view->ShowWindow(1);
-    EXPECT_TRUE(view->isVisible());
-    tagRECT moved{ 10, 10, 110, 40 };
-    view->MoveWindow(&moved);
-    EXPECT_EQ(view->size(), QSize(101, 31));
-    view->SetBGClr(0);
-    EXPECT_EQ(view->BackgroundColor(), QColor(0, 0, 0, 255));
-    view->SetBGClr(0xFF000000u);
-    EXPECT_EQ(view->BackgroundColor().alpha(), 0);
-    QTest::mouseClick(view, Qt::LeftButton, Qt::NoModifier, QPoint(5, 6));
-    EXPECT_EQ(log.back(), "view:down 5,6");
-    SFDestroyControl(static_cast<CSFView*>(view));
 }
 
 TEST(DialogIds, IdOneRunsTheMapThenOkThenAccepts)
@@ -134,16 +88,6 @@ TEST(DialogIds, IdTwoRejectsWithNothingMapped)
     EXPECT_EQ(handler.log, (Log{ "cancel" }));
     EXPECT_EQ(dlg->result(), QDialog::Rejected);
     EXPECT_FALSE(dlg->isVisible());
-}
-
-TEST(DialogIds, WindowWithoutHandlerSwallowsTheCommand)
-{
-    CSFQTDialog dlg(nullptr);
-    dlg.show();
-    CSFCustomEvent e(SF_MSG_COMMAND, 0, 0, 1);
-    QCoreApplication::sendEvent(&dlg, &e);
-    EXPECT_TRUE(dlg.isVisible());
-    EXPECT_NE(dlg.result(), QDialog::Accepted);
 }
 
 TEST(UIMessages, SentAtOnceAndPostedLater)
@@ -243,69 +187,6 @@ TEST(CloseEvent, HiddenMainWindowClosedByMessageEndsTheLoop)
     EXPECT_FALSE(watchdog);
     EXPECT_EQ(handler.log, (Log{ "cancel" }));
     EXPECT_EQ(handler.GetUIWnd(), nullptr) << "reject clears the window pointer";
-}
-
-struct KeyCase {
-    int qtKey;
-    unsigned int dialog;
-    unsigned int mainWindow;
-};
-
-class KeyTable : public testing::TestWithParam<KeyCase> {
-};
-
-TEST_P(KeyTable, TranslatesLikeTheWindowsKeys)
-{
-    EXPECT_EQ(SFMapDialogKey(GetParam().qtKey), GetParam().dialog);
-    EXPECT_EQ(SFMapMainWindowKey(GetParam().qtKey), GetParam().mainWindow);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Keys, KeyTable,
-    testing::Values(KeyCase{ Qt::Key_Escape, 27, 27 }, KeyCase{ Qt::Key_Space, 32, 32 },
-                    KeyCase{ Qt::Key_Left, 37, 37 }, KeyCase{ Qt::Key_Right, 39, 39 },
-                    KeyCase{ Qt::Key_F1, 112, 112 },
-                    KeyCase{ Qt::Key_Return, 13, unsigned(Qt::Key_Return) },
-                    KeyCase{ Qt::Key_F4, 0, 115 }, KeyCase{ Qt::Key_A, 0, unsigned(Qt::Key_A) },
-                    KeyCase{ Qt::Key_Enter, 0, unsigned(Qt::Key_Enter) }));
-
-TEST(KeyModifiers, CtrlReplacesShiftAndAltIsOred)
-{
-    EXPECT_EQ(SFMapKeyModifiers(Qt::NoModifier), 0u);
-    EXPECT_EQ(SFMapKeyModifiers(Qt::ShiftModifier), 16u);
-    EXPECT_EQ(SFMapKeyModifiers(Qt::ControlModifier), 17u);
-    EXPECT_EQ(SFMapKeyModifiers(Qt::ShiftModifier | Qt::ControlModifier), 17u);
-    EXPECT_EQ(SFMapKeyModifiers(Qt::AltModifier), 18u);
-    EXPECT_EQ(SFMapKeyModifiers(Qt::ShiftModifier | Qt::AltModifier), 18u);
-    EXPECT_EQ(SFMapKeyModifiers(Qt::ControlModifier | Qt::AltModifier), 19u);
-}
-
-TEST(KeyModifiers, MainWindowReportsDownAndUp)
-{
-    CLoggingDialogHandler handler;
-    CSFQTMainWindow window(&handler);
-    window.MoveWindow(0, 0, 200, 120);
-    window.show();
-    // QTest presses Ctrl and Alt first: their own key events come too.
-    QTest::keyClick(&window, Qt::Key_F4, Qt::ControlModifier | Qt::AltModifier);
-    ASSERT_EQ(handler.keysDown.size(), 3u);
-    EXPECT_EQ(handler.keysDown[2], std::make_pair(19u, 115u));
-    ASSERT_FALSE(handler.keysUp.empty());
-    EXPECT_EQ(handler.keysUp.front(), std::make_pair(19u, 115u));
-}
-
-TEST(DialogTimers, SecondSetKeepsTheFirstInterval)
-{
-    CLoggingDialogHandler handler;
-    CSFQTDialog dlg(&handler);
-    const unsigned int first = dlg.SetDlgTimer(5, 20);
-    ASSERT_NE(first, 0u);
-    EXPECT_EQ(dlg.SetDlgTimer(5, 100000), first);
-    EXPECT_EVENTUALLY(!handler.timers.empty());
-    EXPECT_EQ(handler.timers.front(), 5u);
-    EXPECT_EQ(dlg.KillDlgTimer(5), 1);
-    EXPECT_EQ(dlg.KillDlgTimer(5), 0);
-    EXPECT_EQ(dlg.KillDlgTimer(99), 0);
 }
 
 TEST(Destruction, HandlerSeesClearedWindowWhileControlsStillExist)

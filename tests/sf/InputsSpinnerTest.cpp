@@ -1,5 +1,5 @@
 // The number spinner: it reports changes made from code as well as by the
-// user, wraps when asked, and is skinned by one style sheet.
+// user and wraps when asked.
 
 #include "InputsTestSupport.h"
 
@@ -78,73 +78,5 @@ INSTANTIATE_TEST_SUITE_P(
                     StepCase{ "DownStops", false, 1, Qt::Key_Down, 1 },
                     StepCase{ "Up", true, 5, Qt::Key_Up, 6 }),
     [](const testing::TestParamInfo<StepCase>& info) { return std::string(info.param.name); });
-
-TEST_F(SpinnerFixture, TypedValueIsReportedAndStepsFollowTheStep)
-{
-    spin->setFocus();
-    spin->selectAll();
-    QTest::keyClicks(spin, QStringLiteral("42"));
-    QTest::keyClick(spin, Qt::Key_Return);
-    EXPECT_EQ(spin->GetCurrentNum(), 42);
-    EXPECT_EQ(handler.Values("num").back(), 42);
-
-    spin->SetStep(10);
-    EXPECT_EQ(spin->GetStep(), 10);
-    spin->StepUp();
-    EXPECT_EQ(spin->GetCurrentNum(), 52);
-    spin->StepDown();
-    spin->StepDown();
-    EXPECT_EQ(handler.Values("num").back(), 32);
-    int lo = 0, hi = 0;
-    spin->GetRange(lo, hi);
-    EXPECT_EQ(lo, 1);
-    EXPECT_EQ(hi, 3650);
-}
-
-TEST(SpinnerFacade, CreateNeitherShowsNorHidesAndSkinIsNineRules)
-{
-    CInputsHost host;
-    auto* spin = static_cast<CSFQTNumSpiner*>(SFCreateNumSpiner(nullptr));
-    spin->Create(nullptr, tagRECT{ 10, 10, 132, 42 }, host.Handle(), 9);
-    EXPECT_EQ(spin->geometry(), QRect(10, 10, 122, 32));
-    EXPECT_EQ(spin->objectName(), QStringLiteral("spinner_9"));
-    EXPECT_FALSE(spin->testAttribute(Qt::WA_WState_ExplicitShowHide));
-    EXPECT_FALSE(spin->hasFrame());
-    tagRECT moved{ 10, 10, 132, 42 };
-    spin->MoveWindow(&moved);
-    EXPECT_EQ(spin->size(), QSize(123, 33));
-
-    const QString oldSkin = g_strSkinPath;
-    g_strSkinPath = QStringLiteral("/s/");
-    ImageNumSpinerStyle style;
-    style.strFrame = L"f.png";
-    style.strDownNormal = L"dn.png";
-    style.strDownHover = L"unused.png";
-    style.strDownPressed = L"dp.png";
-    style.strDownDisabled = L"dd.png";
-    style.strUpNormal = L"un.png";
-    style.strUpHover = L"unused.png";
-    style.strUpPressed = L"up.png";
-    style.strUpDisabled = L"ud.png";
-    EXPECT_EQ(spin->SetSkin(&style), 1);
-    EXPECT_EQ(spin->styleSheet(),
-              QStringLiteral(
-                  "QSpinBox { padding: 0 8px; border-image: url(/s/f.png);}"
-                  "QSpinBox::up-button {width: 21px; border-image: url(/s/un.png);}"
-                  "QSpinBox::up-button:hover {border-image: url(/s/un.png);}"
-                  "QSpinBox::up-button:pressed {border-image: url(/s/up.png);}"
-                  "QSpinBox::up-button:disabled {border-image: url(/s/ud.png);}"
-                  "QSpinBox::down-button {width: 21px; border-image: url(/s/dn.png);}"
-                  "QSpinBox::down-button:hover {border-image: url(/s/dn.png);}"
-                  "QSpinBox::down-button:pressed {border-image: url(/s/dp.png);}"
-                  "QSpinBox::down-button:disabled {border-image: url(/s/dd.png);}"));
-    g_strSkinPath = oldSkin;
-
-    CSFQTNumSpiner origin(nullptr);
-    origin.SetOriginStyle(1);
-    EXPECT_EQ(origin.SetSkin(&style), 0);
-    EXPECT_TRUE(origin.styleSheet().isEmpty());
-    SFDestroyControl(static_cast<CSFNumSpiner*>(spin));
-}
 
 } // namespace

@@ -1,4 +1,4 @@
-// Message map search, the declaration helpers and the handler-side dispatch.
+// Message map search and the handler-side dispatch.
 
 #include "ISFButtonEvent.h"
 #include "ISFDialogEvent.h"
@@ -124,33 +124,6 @@ public:
 
 SF_BEGIN_MSGMAP(CEmptyHandler)
 SF_END_MSGMAP()
-
-TEST(MessageMapDeclaration, EntriesReadAsTheTableWasWritten)
-{
-    CMultiHandler h;
-    const SF_MSGMAP* map = h.GetSFMessageMap();
-    ASSERT_NE(map, nullptr);
-    EXPECT_EQ(map, h.GetSFMessageMap()) << "one static table per class";
-    const SF_MSGMAP_ENTRY* e = map->lpEntries;
-    EXPECT_EQ(e[0].nMessage, 273u);
-    EXPECT_EQ(e[0].nCode, 0u);
-    EXPECT_EQ(e[0].nID, 3u);
-    EXPECT_EQ(e[0].nLastID, 3u);
-    EXPECT_EQ(e[0].nSig, 1u);
-    EXPECT_EQ(e[1].nID, 10u);
-    EXPECT_EQ(e[1].nLastID, 20u);
-    EXPECT_EQ(e[2].nMessage, 78u);
-    EXPECT_EQ(e[2].nCode, 2u);
-    EXPECT_EQ(e[2].nSig, 2u);
-    EXPECT_EQ(e[4].nMessage, 275u);
-    EXPECT_EQ(e[4].nCode, 275u);
-    EXPECT_EQ(e[4].nSig, 3u);
-    EXPECT_EQ(e[8].nSig, 0u);
-    EXPECT_EQ(e[8].pfn, nullptr);
-
-    CEmptyHandler empty;
-    EXPECT_EQ(empty.GetSFMessageMap()->lpEntries[0].nSig, 0u);
-}
 
 TEST(MessageMapDispatch, MemberOfAHandlerWithSeveralBasesReadsItsOwnFields)
 {

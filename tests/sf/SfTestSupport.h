@@ -60,8 +60,6 @@ public:
     Log log;
     int closeResult = 0;
     std::vector<std::pair<unsigned int, unsigned int>> keysDown;
-    std::vector<std::pair<unsigned int, unsigned int>> keysUp;
-    std::vector<unsigned int> timers;
     int sizeCalls = 0;
     // Runs on Dlg_OnInitDialog(false), where a dialog builds its controls.
     std::function<void()> onInit;
@@ -84,14 +82,9 @@ public:
         if (onDestroy)
             onDestroy();
     }
-    void OnDlgTimer(unsigned int id) override { timers.push_back(id); }
     void OnDlgKeyDown(unsigned int modifiers, unsigned int key) override
     {
         keysDown.emplace_back(modifiers, key);
-    }
-    void OnDlgKeyUp(unsigned int modifiers, unsigned int key) override
-    {
-        keysUp.emplace_back(modifiers, key);
     }
     void BTN_OnClicked(int id) override { log.push_back("btn:" + std::to_string(id)); }
 

@@ -1,5 +1,4 @@
-// Frame composition on pixels, caption buttons, dragging, masks, title and
-// centring of the skinned windows, and the picture control.
+// Frame composition on pixels and the caption buttons of skinned windows.
 
 #include "SfTestSupport.h"
 
@@ -87,18 +86,6 @@ TEST_F(SkinnedWindow, DialogFrameTilesEdgesAndCoversTilesWithCorners)
     EXPECT_EQ(m_handler.sizeCalls, 1);
 }
 
-TEST_F(SkinnedWindow, TallDialogTilesTheSideEdges)
-{
-    using namespace SkinColors;
-    auto dlg = ShowDialog(200, 300);
-    const QImage image = dlg->ComposedFrame().toImage();
-    // Left tiles run from 27 + 80 while y < 300 - 20 - 10.
-    ExpectPixels(image, { { 0, 107, Left, "first left tile" },
-                          { 0, 269, Left, "last left tile" },
-                          { 0, 270, LeftBottom, "left-bottom" },
-                          { 199, 150, Right, "right tile" } });
-}
-
 TEST_F(SkinnedWindow, MainWindowSmallerThanItsFrameIsCutFromIt)
 {
     using namespace SkinColors;
@@ -120,14 +107,6 @@ TEST_F(SkinnedWindow, MainWindowSmallerThanItsFrameIsCutFromIt)
                                                      { 295, 195, BottomRight, "corner" } });
 }
 
-TEST_F(SkinnedWindow, NoFrameImageMeansNoCompositionAndNoSizeEvent)
-{
-    m_style.strFrameImage = L"missing.png";
-    auto dlg = ShowDialog(200, 100);
-    EXPECT_TRUE(dlg->ComposedFrame().isNull());
-    EXPECT_EQ(m_handler.sizeCalls, 0);
-}
-
 TEST_F(SkinnedWindow, CaptionButtonCountsNegativeXFromTheRightEdge)
 {
     using namespace SkinColors;
@@ -147,138 +126,6 @@ TEST_F(SkinnedWindow, CaptionButtonCountsNegativeXFromTheRightEdge)
     QTest::mouseClick(dlg.get(), Qt::LeftButton, Qt::NoModifier, QPoint(175, 10));
     EXPECT_TRUE(dlg->isVisible()) << "the close is queued";
     EXPECT_EVENTUALLY(!dlg->isVisible());
-}
-
-TEST_F(SkinnedWindow, EmptyHitRectangleNeitherDrawsNorTakesClicks)
-{
-    auto dlg = ShowDialog(200, 100);
-    EXPECT_FALSE(CSFFrameSkin::IsValidRect(dlg->FrameSkin().ButtonHitRect(1)));
-    QTest::mouseClick(dlg.get(), Qt::LeftButton, Qt::NoModifier, QPoint(195, 2));
-    QTest::qWait(20);
-    EXPECT_TRUE(dlg->isVisible());
-    EXPECT_EQ(dlg->CurrentCaptionButton(), 0);
-}
-
-TEST_F(SkinnedWindow, DraggingStopsAtTheAvailableTop)
-{
-    auto dlg = ShowDialog(200, 100);
-    const QRect avail = dlg->screen()->availableGeometry();
-    const QPoint start = dlg->pos();
-    QTest::mousePress(dlg.get(), Qt::LeftButton, Qt::NoModifier, QPoint(20, 10));
-    QTest::mouseMove(dlg.get(), QPoint(60, 10));
-    EXPECT_EVENTUALLY_EQ(dlg->pos(), start + QPoint(40, 0));
-    QTest::mouseMove(dlg.get(), QPoint(60, -400));
-    EXPECT_EVENTUALLY_EQ(dlg->y(), avail.top());
-    QTest::mouseRelease(dlg.get(), Qt::LeftButton, Qt::NoModifier, QPoint(60, 10));
-    EXPECT_EQ(dlg->y(), avail.top());
-
-    // Below the title nothing drags.
-    const QPoint before = dlg->pos();
-    QTest::mousePress(dlg.get(), Qt::LeftButton, Qt::NoModifier, QPoint(20, 60));
-    QTest::mouseMove(dlg.get(), QPoint(80, 80));
-    QTest::mouseRelease(dlg.get(), Qt::LeftButton, Qt::NoModifier, QPoint(80, 80));
-    EXPECT_EQ(dlg->pos(), before);
-}
-
-TEST_F(SkinnedWindow, RoundCornersCutTheMask)
-{
-    m_style.strRoundCorner = L"8,8";
-    auto rounded = ShowDialog(200, 100);
-    EXPECT_FALSE(rounded->mask().contains(QPoint(0, 0)));
-    EXPECT_FALSE(rounded->mask().contains(QPoint(199, 99)));
-    EXPECT_TRUE(rounded->mask().contains(QPoint(100, 50)));
-    EXPECT_TRUE(rounded->mask().contains(QPoint(100, 0)));
-
-    m_style.strRoundCorner = L"0,0";
-    auto square = ShowDialog(200, 100);
-    EXPECT_TRUE(square->mask().contains(QPoint(0, 0)));
-    EXPECT_TRUE(square->mask().contains(QPoint(199, 99)));
-}
-
-struct AlignCase {
-    const wchar_t* align;
-    int expectedAlign; // 0 left, 1 centre, 2 right
-};
-
-class TitleAlign : public SkinnedWindow, public testing::WithParamInterface<AlignCase> {
-};
-
-TEST_P(TitleAlign, PlacesTheTitleLabel)
-{
-    m_style.strTitleAlign = GetParam().align;
-    auto dlg = ShowDialog(300, 100);
-    QLabel* title = dlg->TitleLabel();
-    ASSERT_NE(title, nullptr);
-    const QFontMetrics fm(title->font());
-    const int tw = fm.horizontalAdvance(QStringLiteral("Title")) + 1;
-    const int x = GetParam().expectedAlign == 0 ? 15
-        : GetParam().expectedAlign == 1         ? (300 - tw) / 2
-                                                : 300 - tw;
-    EXPECT_EQ(title->geometry(), QRect(QPoint(x, 5), QPoint(x + tw, fm.height() + 6)));
-    EXPECT_EQ(title->palette().color(QPalette::WindowText).rgb(), QColor(0x33, 0x33, 0x33).rgb());
-    EXPECT_EQ(dlg->windowTitle(), QStringLiteral("Title"));
-}
-
-INSTANTIATE_TEST_SUITE_P(Aligns, TitleAlign,
-                         testing::Values(AlignCase{ L"left", 0 }, AlignCase{ L"center", 1 },
-                                         AlignCase{ L"right", 2 }, AlignCase{ L"Left", 0 },
-                                         AlignCase{ L"", 0 }));
-
-TEST_F(SkinnedWindow, WindowSizeCentresAndSetsTheMinimum)
-{
-    m_style.strWindowSize = L"300,200";
-    CSFQTDialog dlg(&m_handler);
-    dlg.SetSkin(&m_style);
-    const QRect avail = dlg.screen()->availableGeometry();
-    EXPECT_EQ(dlg.size(), QSize(300, 200));
-    EXPECT_EQ(dlg.pos(), QPoint(avail.x() + (avail.width() - 300) / 2,
-                                avail.y() + (avail.height() - 200) / 2));
-    EXPECT_EQ(dlg.MinimumSkinSize(), QSize(300, 200));
-
-    // Without a window size the frame image gives the minimum.
-    CSFQTDialog plain(&m_handler);
-    m_style.strWindowSize.clear();
-    plain.SetSkin(&m_style);
-    EXPECT_EQ(plain.MinimumSkinSize(), QSize(148, 140));
-    plain.MoveWindow(0, 0, 100, 100);
-    plain.CenterWindow(nullptr);
-    EXPECT_EQ(plain.size(), QSize(148, 140));
-
-    plain.SetDlgWindowPos(nullptr, 5, 6, 250, 150, 2);
-    EXPECT_EQ(plain.size(), QSize(250, 150));
-    EXPECT_NE(plain.pos(), QPoint(5, 6));
-}
-
-TEST(SkinImages, PathWithoutFinalSlashLoadsNothing)
-{
-    CTestSkin skin;
-    ASSERT_TRUE(skin.IsValid());
-    EXPECT_NE(SFLoadSkinPixmap(L"Frame.png"), nullptr);
-    g_strSkinPath = skin.Dir();
-    EXPECT_EQ(SFLoadSkinPixmap(L"Frame.png"), nullptr);
-}
-
-TEST(PictureCtrl, CreateIsExclusiveMoveIsInclusiveStyleDecidesVisibility)
-{
-    CTestSkin skin;
-    QWidget parent;
-    parent.show();
-    CSFPictureCtrl* picture = SFCreatePictureCtrl(nullptr);
-    picture->SetImage(L"Frame.png");
-    tagRECT rect{ 10, 10, 110, 40 };
-    picture->Create(L"Banner", 0, rect, &parent, 3);
-    auto* widget = static_cast<QWidget*>(picture->GetHWnd());
-    EXPECT_EQ(widget->size(), QSize(100, 30));
-    EXPECT_FALSE(widget->isVisible());
-    picture->ShowWindow(1);
-    EXPECT_TRUE(widget->isVisible());
-    picture->MoveWindow(&rect);
-    EXPECT_EQ(widget->size(), QSize(101, 31));
-    EXPECT_EQ(widget->objectName(), QStringLiteral("picture_3"));
-    EXPECT_EQ(widget->accessibleName(), QStringLiteral("Banner"));
-    // Stretched picture under centred text: the top-left corner is red.
-    EXPECT_EQ(QColor(widget->grab().toImage().pixel(0, 0)).rgb(), SkinColors::TopLeft.rgb());
-    SFDestroyControl(picture);
 }
 
 } // namespace

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <ostream>
-
 #include <climits>
 
 namespace {
@@ -18,12 +16,6 @@ struct RangeCase {
     unsigned max;
     int estimate;
 };
-
-std::ostream& operator<<(std::ostream& os, const RangeCase& c)
-{
-    return os << "res " << c.resolutionIndex << " rate " << c.frameRateIndex << " codec " << c.codec << "/"
-              << c.codecFlag << " full " << c.fullFrameRate;
-}
 
 class BitrateRange : public ::testing::TestWithParam<RangeCase> {};
 
@@ -55,57 +47,23 @@ INSTANTIATE_TEST_SUITE_P(
         RangeCase{5, 7, 1, 0, 0, 4459, 25527, 14993},
         RangeCase{5, 7, 2, 1, 0, 4459, 25527, 14993},
         // Full rates outside 1..149 fall back to 50.
-        RangeCase{5, 7, 0, 0, 50, 4459, 25527, 14993},
         RangeCase{5, 7, 0, 0, 150, 4459, 25527, 14993},
-        RangeCase{5, 7, 0, 0, -4, 4459, 25527, 14993},
         RangeCase{5, 7, 0, 0, 149, 4336, 24872, 14604},
-        RangeCase{5, 7, 0, 0, 1, 12886, 73636, 43261},
         // Truncation before the pixel product: 453.6 becomes 453.
         RangeCase{1, 1, 0, 0, 25, 36408, 208322, 122365},
-        RangeCase{1, 1, 1, 5, 25, 43689, 249986, 146837},
         RangeCase{2, 4, 1, 5, 30, 25022, 142987, 84004},
         RangeCase{12, 21, 0, 0, 50, 1, 10, 5},
         // Nothing chosen, or outside the tables.
         RangeCase{0, 7, 0, 0, 0, 0, 0, 0},
-        RangeCase{5, 0, 0, 0, 0, 0, 0, 0},
         RangeCase{13, 7, 0, 0, 0, 0, 0, 0},
-        RangeCase{-1, 7, 0, 0, 0, 0, 0, 0},
         RangeCase{5, -1, 0, 0, 0, 0, 0, 0},
-        RangeCase{5, 22, 0, 0, 0, 0, 0, 0},
         RangeCase{5, INT_MAX, 0, 0, 0, 0, 0, 0}));
-
-TEST(BitrateRange, EachFrameRateIndexReadsItsEntry)
-{
-    // 352x288 over the 352x288 divisor and a full rate of 1: min is 21 * rate.
-    const int rates[] = {60, 55, 50, 45, 40, 35, 30, 25, 20, 15, 12,
-                         10, 9,  8,  7,  6,  5,  4,  3,  2,  1};
-    for (int i = 0; i < 21; ++i) {
-        unsigned min = 0;
-        unsigned max = 0;
-        GetBitrateRange(11, i + 1, &min, &max, 0, 0, 1);
-        EXPECT_EQ(unsigned(21 * rates[i]), min) << "index " << i + 1;
-        EXPECT_EQ(unsigned(120 * rates[i]), max) << "index " << i + 1;
-    }
-}
-
-TEST(BitrateRange, NullOutputsAreSkipped)
-{
-    unsigned max = 0;
-    GetBitrateRange(5, 7, nullptr, &max, 0, 0, 0);
-    EXPECT_EQ(25527u, max);
-    EXPECT_EQ(14993, GetBitrateEstimate(5, 7, 0, 0, nullptr, nullptr, 0));
-}
 
 struct RoundCase {
     int value;
     int step;
     int result;
 };
-
-std::ostream& operator<<(std::ostream& os, const RoundCase& c)
-{
-    return os << c.value << " step " << c.step;
-}
 
 class RoundToStepCases : public ::testing::TestWithParam<RoundCase> {};
 
@@ -117,22 +75,12 @@ TEST_P(RoundToStepCases, Rounds)
 INSTANTIATE_TEST_SUITE_P(
     Cases, RoundToStepCases,
     ::testing::Values(RoundCase{17, 10, 20}, RoundCase{14, 10, 10}, RoundCase{15, 10, 20},
-                      RoundCase{20, 10, 20}, RoundCase{7, 0, 7}, RoundCase{-7, 0, -7},
+                      RoundCase{20, 10, 20}, RoundCase{7, 0, 7},
                       // Step 1 always adds one: remainder 0 is not below 0.
-                      RoundCase{5, 1, 6}, RoundCase{0, 1, 1}, RoundCase{-5, 1, -4},
-                      RoundCase{16, 3, 18}, RoundCase{15, 3, 15},
+                      RoundCase{5, 1, 6}, RoundCase{15, 3, 15},
                       // Negative remainders always take the lower branch.
-                      RoundCase{-17, 10, -10}, RoundCase{-14, 10, -10}, RoundCase{-15, 10, -10},
-                      RoundCase{-20, 10, -20}, RoundCase{17, -10, 0},
+                      RoundCase{-17, 10, -10}, RoundCase{-20, 10, -20}, RoundCase{17, -10, 0},
                       // Ends of the range wrap instead of trapping.
                       RoundCase{INT_MIN, -1, INT_MAX}, RoundCase{INT_MAX, 10, INT_MIN + 2}));
-
-TEST(NameLists, HoldTheirEntries)
-{
-    EXPECT_STREQ("MPEG4", g_szCodecNames[0]);
-    EXPECT_STREQ("H264", g_szCodecNames[kCodecNameCount - 1]);
-    EXPECT_STREQ("Worst", g_szQualityNames[0]);
-    EXPECT_STREQ("Best", g_szQualityNames[kQualityNameCount - 1]);
-}
 
 }  // namespace

@@ -18,10 +18,11 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
+#include <QDialog>
 #include <QFile>
 #include <QLineEdit>
-#include <QSpinBox>
 #include <QTest>
+#include <QTimer>
 #include <QWindow>
 #include <gtest/gtest.h>
 
@@ -35,6 +36,8 @@ QString LabelText(CSFStatic* label)
     label->GetStaticText(buffer, 512);
     return QString::fromWCharArray(buffer);
 }
+
+bool Shown(const QWidget* w) { return w && !w->isHidden(); }
 
 } // namespace
 
@@ -76,27 +79,33 @@ void UserClick(QWidget* w, QPoint at)
     QTest::mouseClick(window, Qt::LeftButton, Qt::NoModifier, p);
 }
 
+CModalWatch::CModalWatch(std::function<void(QDialog*)> inspect) : m_poll(new QTimer(qApp))
+{
+    m_poll->setInterval(5);
+    QTimer* poll = m_poll;
+    QObject::connect(poll, &QTimer::timeout, poll, [this, poll, inspect] {
+        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (!dialog || !dialog->isVisible())
+            return;
+        poll->stop();
+        ++m_seen;
+        QPointer<QDialog> alive(dialog);
+        inspect(dialog);
+        if (alive && alive->isVisible()) {
+            ADD_FAILURE() << "the dialog was left open";
+            alive->reject();
+        }
+    });
+    m_poll->start();
+}
+
+CModalWatch::~CModalWatch() { delete m_poll; }
+
 CPageDriver::CPageDriver(CTallixEventImp* page) : m_page(page) {}
-
-CSFQTListCtrl* CPageDriver::List() const
-{
-    return dynamic_cast<CSFQTListCtrl*>(m_page->m_pList);
-}
-
-CCalculatorBottom* CPageDriver::Calculator() const
-{
-    return m_page->m_pCalculator;
-}
-
-void CPageDriver::ClickAdd()
-{
-    UserClick(dynamic_cast<QWidget*>(m_page->m_pLabelAdd));
-}
-
-void CPageDriver::ClickClearAll()
-{
-    UserClick(dynamic_cast<QWidget*>(m_page->m_pLabelClear));
-}
+CSFQTListCtrl* CPageDriver::List() const { return dynamic_cast<CSFQTListCtrl*>(m_page->m_pList); }
+CCalculatorBottom* CPageDriver::Calculator() const { return m_page->m_pCalculator; }
+void CPageDriver::ClickAdd() { UserClick(dynamic_cast<QWidget*>(m_page->m_pLabelAdd)); }
+void CPageDriver::ClickClearAll() { UserClick(dynamic_cast<QWidget*>(m_page->m_pLabelClear)); }
 
 void CPageDriver::AddRows(int count)
 {
@@ -110,68 +119,49 @@ QWidget* CPageDriver::Cell(CSFQTListCtrl::Register reg, int row) const
     return list ? list->CellWidget(list->RegisterControl(reg, row)) : nullptr;
 }
 
+QWidget* CPageDriver::Reveal(CSFQTListCtrl::Register reg, int row, RowColumn col) const
+{
+    List()->scrollTo(List()->model()->index(row, col));
+    return Cell(reg, row);
+}
+
 QWidget* CPageDriver::Combo(int row, RowColumn col) const
 {
     switch (col) {
-    case ColCompression:
-        return Cell(CSFQTListCtrl::CompressionCombos, row);
-    case ColEnvironment:
-        return Cell(CSFQTListCtrl::EnvironmentCombos, row);
-    case ColResolution:
-        return Cell(CSFQTListCtrl::ResolutionCombos, row);
-    case ColFrameRate:
-        return Cell(CSFQTListCtrl::FrameRateCombos, row);
-    default:
-        return nullptr;
+    case ColCompression: return Cell(CSFQTListCtrl::CompressionCombos, row);
+    case ColEnvironment: return Cell(CSFQTListCtrl::EnvironmentCombos, row);
+    case ColResolution: return Cell(CSFQTListCtrl::ResolutionCombos, row);
+    case ColFrameRate: return Cell(CSFQTListCtrl::FrameRateCombos, row);
+    default: return nullptr;
     }
 }
 
-void CPageDriver::Choose(int row, RowColumn col, int index)
+void UserChoose(QComboBox* combo, int index)
 {
-    QComboBox* combo = qobject_cast<QComboBox*>(Combo(row, col));
     if (!combo) {
-        ADD_FAILURE() << "no combo in row " << row << " column " << col;
+        ADD_FAILURE() << "no combo to choose in";
         return;
     }
-    List()->scrollTo(List()->model()->index(row, col));
-    UserClick(combo);
-    QAbstractItemView* view = combo->view();
-    if (!QTest::qWaitFor([view] { return view->isVisible(); }, 2000)) {
-        ADD_FAILURE() << "the popup of row " << row << " column " << col << " did not open";
-        return;
-    }
-    for (int guard = 0; guard < 20 && view->currentIndex().row() != index; ++guard)
-        QTest::keyClick(view, view->currentIndex().row() < index ? Qt::Key_Down : Qt::Key_Up);
-    QTest::keyClick(view, Qt::Key_Return);
-    if (!QTest::qWaitFor([view] { return !view->isVisible(); }, 2000))
-        ADD_FAILURE() << "the popup stayed open";
-}
-
-void CPageDriver::ChooseByMouse(int row, RowColumn col, int index)
-{
-    QComboBox* combo = qobject_cast<QComboBox*>(Combo(row, col));
-    if (!combo) {
-        ADD_FAILURE() << "no combo in row " << row << " column " << col;
-        return;
-    }
-    List()->scrollTo(List()->model()->index(row, col));
     UserClick(combo);
     QAbstractItemView* view = combo->view();
     if (!QTest::qWaitFor([view] { return view->isVisible(); }, 2000)) {
         ADD_FAILURE() << "the popup did not open";
         return;
     }
-    QWidget* viewport = view->viewport();
-    view->scrollTo(combo->model()->index(index, 0));
-    const QRect item = view->visualRect(combo->model()->index(index, 0)) & viewport->rect();
-    // A fresh popup takes no release for a double-click interval.
-    QTest::qWait(QApplication::doubleClickInterval() + 50);
-    UserClick(viewport, item.center());
+    for (int guard = 0; guard < 30 && view->currentIndex().row() != index; ++guard)
+        QTest::keyClick(view, view->currentIndex().row() < index ? Qt::Key_Down : Qt::Key_Up);
+    QTest::keyClick(view, Qt::Key_Return);
     if (!QTest::qWaitFor([view] { return !view->isVisible(); }, 2000))
         ADD_FAILURE() << "the popup stayed open";
 }
 
-void CPageDriver::TypeInto(QWidget* w, const QString& text)
+void CPageDriver::Choose(int row, RowColumn col, int index)
+{
+    List()->scrollTo(List()->model()->index(row, col));
+    UserChoose(qobject_cast<QComboBox*>(Combo(row, col)), index);
+}
+
+void UserType(QWidget* w, const QString& text)
 {
     if (!w) {
         ADD_FAILURE() << "nothing to type into";
@@ -187,29 +177,17 @@ void CPageDriver::TypeInto(QWidget* w, const QString& text)
 
 void CPageDriver::TypeCustomRate(int row, const QString& text)
 {
-    List()->scrollTo(List()->model()->index(row, ColFrameRate));
-    TypeInto(Cell(CSFQTListCtrl::CustomRateEdits, row), text);
+    UserType(Reveal(CSFQTListCtrl::CustomRateEdits, row, ColFrameRate), text);
 }
 
 void CPageDriver::TypeBitrate(int row, const QString& text)
 {
-    List()->scrollTo(List()->model()->index(row, ColBitrate));
-    TypeInto(Cell(CSFQTListCtrl::BitrateEdits, row), text);
-}
-
-void CPageDriver::TypeChannels(int row, const QString& text)
-{
-    List()->scrollTo(List()->model()->index(row, ColChannels));
-    QWidget* spin = Cell(CSFQTListCtrl::ChannelSpiners, row);
-    TypeInto(spin, text);
-    if (spin)
-        QTest::keyClick(spin, Qt::Key_Return);
+    UserType(Reveal(CSFQTListCtrl::BitrateEdits, row, ColBitrate), text);
 }
 
 void CPageDriver::StepChannels(int row, int steps)
 {
-    List()->scrollTo(List()->model()->index(row, ColChannels));
-    QWidget* spin = Cell(CSFQTListCtrl::ChannelSpiners, row);
+    QWidget* spin = Reveal(CSFQTListCtrl::ChannelSpiners, row, ColChannels);
     if (!spin) {
         ADD_FAILURE() << "no spinner in row " << row;
         return;
@@ -221,20 +199,17 @@ void CPageDriver::StepChannels(int row, int steps)
 
 void CPageDriver::ToggleAudio(int row)
 {
-    List()->scrollTo(List()->model()->index(row, ColAudio));
-    UserClick(Cell(CSFQTListCtrl::AudioChecks, row));
+    UserClick(Reveal(CSFQTListCtrl::AudioChecks, row, ColAudio));
 }
 
 void CPageDriver::ClickDelete(int row)
 {
-    List()->scrollTo(List()->model()->index(row, ColOperation));
-    UserClick(Cell(CSFQTListCtrl::DeleteButtons, row));
+    UserClick(Reveal(CSFQTListCtrl::DeleteButtons, row, ColOperation));
 }
 
 void CPageDriver::ClickPreview(int row)
 {
-    List()->scrollTo(List()->model()->index(row, ColEnvironment));
-    UserClick(Cell(CSFQTListCtrl::EnvironmentButtons, row));
+    UserClick(Reveal(CSFQTListCtrl::EnvironmentButtons, row, ColEnvironment));
 }
 
 void CPageDriver::FillRow(int row, int compression, int scene, int resolution, int frameRate)
@@ -268,14 +243,11 @@ bool CPageDriver::ComboEnabled(int row, RowColumn col) const
 
 bool CPageDriver::PreviewShown(int row) const
 {
-    const QWidget* w = Cell(CSFQTListCtrl::EnvironmentButtons, row);
-    return w && !w->isHidden();
+    return Shown(Cell(CSFQTListCtrl::EnvironmentButtons, row));
 }
-
 bool CPageDriver::CustomRateShown(int row) const
 {
-    const QWidget* w = Cell(CSFQTListCtrl::CustomRateEdits, row);
-    return w && !w->isHidden();
+    return Shown(Cell(CSFQTListCtrl::CustomRateEdits, row));
 }
 
 QString CPageDriver::CustomRateText(int row) const
@@ -284,30 +256,17 @@ QString CPageDriver::CustomRateText(int row) const
     return edit ? edit->text() : QStringLiteral("<none>");
 }
 
-int CPageDriver::Rows() const
-{
-    return List()->GetItemCount();
-}
-
+int CPageDriver::Rows() const { return List()->GetItemCount(); }
 QString CPageDriver::ChannelsLabel() const
 {
     return LabelText(Calculator()->m_pStaticChannelCount);
 }
-
-QString CPageDriver::BitrateLabel() const
-{
-    return LabelText(Calculator()->m_pStaticBitrate);
-}
-
+QString CPageDriver::BitrateLabel() const { return LabelText(Calculator()->m_pStaticBitrate); }
 QString CPageDriver::ResultCaption() const
 {
     return LabelText(Calculator()->m_pStaticResultCaption);
 }
-
-QString CPageDriver::ResultValue() const
-{
-    return LabelText(Calculator()->m_pStaticResultValue);
-}
+QString CPageDriver::ResultValue() const { return LabelText(Calculator()->m_pStaticResultValue); }
 
 void CPageDriver::ClickMode(unsigned int radioId)
 {
@@ -335,11 +294,7 @@ CMainWindowUnderTest::~CMainWindowUnderTest()
     delete m_event;
 }
 
-QWidget* CMainWindowUnderTest::Window() const
-{
-    return dynamic_cast<QWidget*>(m_dlg);
-}
-
+QWidget* CMainWindowUnderTest::Window() const { return dynamic_cast<QWidget*>(m_dlg); }
 CTallixEventImp* CMainWindowUnderTest::Page() const
 {
     return m_event ? m_event->m_pPageEvent : nullptr;
@@ -366,7 +321,4 @@ CPageOnView::~CPageOnView()
     delete m_page;
 }
 
-QWidget* CPageOnView::Window() const
-{
-    return dynamic_cast<QWidget*>(m_view);
-}
+QWidget* CPageOnView::Window() const { return dynamic_cast<QWidget*>(m_view); }

@@ -5,7 +5,9 @@
 #include "SFQTListCtrl.h"
 
 #include <QPoint>
+#include <QPointer>
 #include <QString>
+#include <functional>
 #include <memory>
 
 class CCalculatorBottom;
@@ -13,11 +15,13 @@ class CMainDlgEventImp;
 class CSFDialog;
 class CSFView;
 class CTallixEventImp;
+class QComboBox;
+class QDialog;
+class QTimer;
 class QWidget;
 
-// Skin, style sheet, the default settings and the dictionary of the given
-// language; g_nLanguage
-// becomes that language, so 1 also selects area 1.
+// Skin, style sheet, default settings and the dictionary of the language;
+// language 1 also selects area 1.
 void UseProgramEnvironment(int language = 0);
 
 // The same as a member that stands before the window in a fixture.
@@ -28,25 +32,35 @@ struct CProgramEnvironment {
 // A click through the window system at a point of w (its centre by default):
 // the widget under the point receives it, as under a real mouse.
 void UserClick(QWidget* w, QPoint at = QPoint(-1, -1));
+// Opens the combo with a click and picks the entry in its popup by keys.
+void UserChoose(QComboBox* combo, int index);
+// Clicks into the edit, selects all and types.
+void UserType(QWidget* w, const QString& text);
+
+// Runs inspect on the first modal dialog that shows while it lives; inspect
+// must close it.
+class CModalWatch {
+public:
+    explicit CModalWatch(std::function<void(QDialog*)> inspect);
+    ~CModalWatch();
+    CModalWatch(const CModalWatch&) = delete;
+    CModalWatch& operator=(const CModalWatch&) = delete;
+    int Seen() const { return m_seen; }
+
+private:
+    QPointer<QTimer> m_poll;
+    int m_seen = 0;
+};
 
 // Columns of a channel row.
-enum RowColumn {
-    ColNumber = 0,
-    ColChannels = 1,
-    ColCompression = 2,
-    ColEnvironment = 3,
-    ColResolution = 4,
-    ColFrameRate = 5,
-    ColAudio = 6,
-    ColBitrate = 7,
-    ColOperation = 8
-};
+enum RowColumn { ColNumber, ColChannels, ColCompression, ColEnvironment, ColResolution,
+                 ColFrameRate, ColAudio, ColBitrate, ColOperation };
 
 // Combo entries by index, as the row offers them.
 namespace Entry {
 enum Compression { H264 = 1, H265 = 2, Smart264 = 3, Smart265 = 4 };
 enum Resolution { CIF = 1, VGA = 2, D1 = 3, MP1 = 4, MP2 = 6, MP4 = 8, MP8 = 11, MP12 = 12 };
-enum FrameRate { Fps1 = 1, Fps15 = 4, Fps25 = 6, Fps30 = 7, Fps45 = 8, Fps60 = 9, Custom = 10 };
+enum FrameRate { Fps15 = 4, Fps25 = 6, Fps30 = 7, Fps60 = 9, Custom = 10 };
 } // namespace Entry
 
 class CPageDriver {
@@ -62,14 +76,9 @@ public:
     void ClickClearAll();
     void AddRows(int count);
 
-    // Opens the combo of the cell with a click and picks the entry in its
-    // popup, by keys or by mouse.
     void Choose(int row, RowColumn col, int index);
-    void ChooseByMouse(int row, RowColumn col, int index);
-    // Clicks into the edit, selects all and types.
     void TypeCustomRate(int row, const QString& text);
     void TypeBitrate(int row, const QString& text);
-    void TypeChannels(int row, const QString& text);
     // Arrow keys on the focused spinner: up for positive steps.
     void StepChannels(int row, int steps);
     void ToggleAudio(int row);
@@ -97,7 +106,8 @@ public:
     QWidget* Combo(int row, RowColumn col) const;
 
 private:
-    void TypeInto(QWidget* w, const QString& text);
+    // Scrolls the column of the row into view and gives its control.
+    QWidget* Reveal(CSFQTListCtrl::Register reg, int row, RowColumn col) const;
     CTallixEventImp* m_page;
 };
 

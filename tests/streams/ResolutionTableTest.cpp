@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <ostream>
-
 namespace {
 
 struct SizeCase {
@@ -12,11 +10,6 @@ struct SizeCase {
     int width;
     int height;
 };
-
-std::ostream& operator<<(std::ostream& os, const SizeCase& c)
-{
-    return os << c.index << (c.bNtsc ? " ntsc " : " pal ") << c.width << "x" << c.height;
-}
 
 class IndexToSize : public ::testing::TestWithParam<SizeCase> {};
 
@@ -32,24 +25,12 @@ TEST_P(IndexToSize, GivesSizeOrLeavesOutputs)
 
 INSTANTIATE_TEST_SUITE_P(
     Cases, IndexToSize,
-    ::testing::Values(SizeCase{0, 1, 704, 480}, SizeCase{4, 1, 176, 120},
-                      SizeCase{21, 1, 3744, 1408}, SizeCase{28, 1, 960, 480},
-                      SizeCase{32, 1, 160, 90},
+    ::testing::Values(SizeCase{21, 1, 3744, 1408},
                       // The twelve-row list, largest first.
-                      SizeCase{0, 0, 3296, 2472}, SizeCase{1, 0, 3072, 2048},
-                      SizeCase{4, 0, 1920, 1080}, SizeCase{6, 0, 960, 576},
-                      SizeCase{9, 0, 704, 288}, SizeCase{11, 0, 176, 144},
+                      SizeCase{0, 0, 3296, 2472}, SizeCase{4, 0, 1920, 1080},
+                      SizeCase{11, 0, 176, 144},
                       // Outside: untouched.
-                      SizeCase{33, 1, -7, -9}, SizeCase{-1, 1, -7, -9}, SizeCase{12, 0, -7, -9},
-                      SizeCase{-1, 0, -7, -9}, SizeCase{32, 0, -7, -9}));
-
-TEST(IndexToSize, NullOutputsAreSkipped)
-{
-    int width = 0;
-    ResolutionIndexToSize(0, &width, nullptr, 0);
-    EXPECT_EQ(3296, width);
-    ResolutionIndexToSize(0, nullptr, nullptr, 1);
-}
+                      SizeCase{33, 1, -7, -9}, SizeCase{-1, 1, -7, -9}, SizeCase{12, 0, -7, -9}));
 
 class SizeToIndex : public ::testing::TestWithParam<SizeCase> {};
 
@@ -61,17 +42,13 @@ TEST_P(SizeToIndex, FindsFirstRow)
 
 INSTANTIATE_TEST_SUITE_P(
     Cases, SizeToIndex,
-    ::testing::Values(SizeCase{0, 1, 704, 480}, SizeCase{0, 0, 704, 576},
-                      SizeCase{3, 1, 352, 240}, SizeCase{3, 0, 352, 288},
-                      SizeCase{4, 0, 176, 144}, SizeCase{5, 0, 640, 480},
-                      SizeCase{28, 1, 960, 480}, SizeCase{28, 0, 960, 576},
-                      SizeCase{32, 1, 160, 90}, SizeCase{32, 0, 160, 90},
+    ::testing::Values(SizeCase{0, 0, 704, 576}, SizeCase{3, 0, 352, 288},
+                      SizeCase{28, 0, 960, 576}, SizeCase{32, 0, 160, 90},
                       // Not the twelve-row list: its first row is row 26 here.
                       SizeCase{26, 0, 3296, 2472}, SizeCase{18, 0, 1920, 1080},
                       // Unknown, or only in the other norm: 0 like row 0.
-                      SizeCase{0, 1, 704, 576}, SizeCase{0, 0, 704, 480},
-                      SizeCase{0, 0, 960, 480}, SizeCase{0, 1, 3072, 2048},
-                      SizeCase{0, 1, 0, 0}, SizeCase{0, 0, 480, 704}));
+                      SizeCase{0, 0, 704, 480}, SizeCase{0, 1, 3072, 2048},
+                      SizeCase{0, 0, 480, 704}));
 
 TEST(SizeToIndex, InvertsTheNtscTable)
 {
