@@ -13,6 +13,9 @@ PACKAGES=(
   libgtest-dev libgmock-dev googletest
   xvfb xauth xdotool
   fonts-noto-cjk fonts-dejavu-core
+  clang libclang-rt-14-dev
+  valgrind strace
+  dpkg-dev file
 )
 
 if [ "$(id -u)" -eq 0 ]; then
