@@ -7,8 +7,10 @@
 
 #include <QAbstractItemView>
 #include <QCommonStyle>
+#include <QCoreApplication>
 #include <QIcon>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QPainter>
 #include <QScreen>
 #include <algorithm>
@@ -50,21 +52,38 @@ const QString& ComboStyleSheet()
     return sheet;
 }
 
+// One plain style for every combo box: a style of its own would cost each
+// combo memory, and the style outlives every popup that leans on it.
+QStyle* PlainStyle()
+{
+    static QPointer<QCommonStyle> style;
+    if (!style) {
+        style = new QCommonStyle;
+        style->setParent(QCoreApplication::instance());
+    }
+    return style;
+}
+
+// A transparent icon one pixel wide makes every popup row 25 high.
+// One for all items; never freed, as a pixmap must not outlive the
+// application object.
+const QIcon& RowSpacer()
+{
+    static const QIcon* icon = [] {
+        QPixmap spacer(1, CSFQTComboBox::RowHeight);
+        spacer.fill(Qt::transparent);
+        return new QIcon(spacer);
+    }();
+    return *icon;
+}
+
 } // namespace
 
 CSFQTComboBox::CSFQTComboBox(ISFComboBoxEvent* handler, QWidget* parent)
     : QComboBox(parent), CSFComboBox(handler), m_state(0), m_popupOpen(0), m_originStyle(0),
-      m_style(new QCommonStyle)
+      m_sheetWanted(0), m_popupMade(0)
 {
-    // No platform style may paint this widget.
-    setStyle(m_style);
     setFrame(false);
-    view()->viewport()->setFocusPolicy(Qt::NoFocus);
-    // Set after view(): making the popup installs Qt's own delegate.
-    setItemDelegate(new CSFQTComboDelegate(RowHeight, this));
-    // The popup's style sheet style leans on this style while the popup goes
-    // down: as the last child made, the style goes after it.
-    m_style->setParent(this);
     Connect();
 }
 
@@ -110,7 +129,11 @@ int CSFQTComboBox::SetSkin(ImageComboBoxStyle* style)
         slice.stretch = (slice.set && *modes[i] == std::wstring(L"stretch")) ? 1 : 0;
         slice.rect = ParseSlice(*rects[i]);
     }
-    setStyleSheet(ComboStyleSheet());
+    // The sheet only shapes the popup and Qt's own painting, so it waits for
+    // either: a table of rows would otherwise pay for it in every combo.
+    m_sheetWanted = 1;
+    if (m_originStyle == 1 || m_popupMade)
+        ApplySheet();
     update();
     return 1;
 }
@@ -135,11 +158,7 @@ void CSFQTComboBox::MoveWindow(int x, int y, int w, int h)
 int CSFQTComboBox::AddString(const wchar_t* text)
 {
     Disconnect();
-    // A transparent icon one pixel wide makes every popup row 25 high.
-    QPixmap spacer(1, RowHeight);
-    spacer.fill(Qt::transparent);
-    setIconSize(QSize(1, RowHeight));
-    addItem(QIcon(spacer), SFToQString(text));
+    addItem(RowSpacer(), SFToQString(text));
     const int index = count() - 1;
     Connect();
     return index;
@@ -193,6 +212,11 @@ void CSFQTComboBox::EnableWindow(int enable)
 void CSFQTComboBox::SetOriginStyle(int origin)
 {
     m_originStyle = origin;
+    // Qt paints the control from now on, with the plain style.
+    if (origin == 1) {
+        MakePopup();
+        ApplySheet();
+    }
     update();
 }
 
@@ -211,6 +235,7 @@ void CSFQTComboBox::ResetContent()
 
 void CSFQTComboBox::showPopup()
 {
+    MakePopup();
     m_state = 2;
     m_popupOpen = 1;
     QComboBox::showPopup();
@@ -311,6 +336,18 @@ void CSFQTComboBox::focusInEvent(QFocusEvent* e)
     QComboBox::focusInEvent(e);
 }
 
+void CSFQTComboBox::changeEvent(QEvent* e)
+{
+    // Qt restyles a popup it builds first for the purpose: with none made
+    // yet there is nothing to restyle, and MakePopup catches up.
+    if (!m_popupMade && (e->type() == QEvent::StyleChange || e->type() == QEvent::FontChange)) {
+        updateGeometry();
+        QWidget::changeEvent(e);
+        return;
+    }
+    QComboBox::changeEvent(e);
+}
+
 void CSFQTComboBox::wheelEvent(QWheelEvent*)
 {
     // The wheel never changes a combo box.
@@ -331,5 +368,33 @@ void CSFQTComboBox::Disconnect()
 
 bool CSFQTComboBox::PopupActive() const
 {
-    return m_popupOpen != 0 || view()->isVisible();
+    // view() would make the popup; one never made is not showing.
+    return m_popupOpen != 0 || (m_popupMade && view()->isVisible());
+}
+
+// The popup is made on its first opening: most combo boxes of a table are
+// never opened, and a popup is a handful of widgets.
+void CSFQTComboBox::MakePopup()
+{
+    if (m_popupMade)
+        return;
+    m_popupMade = 1;
+    // No platform style may paint the popup. Set here, not at birth: a style
+    // change makes Qt build the popup at once.
+    setStyle(PlainStyle());
+    // The font change held back while there was no popup.
+    QEvent fontChange(QEvent::FontChange);
+    QComboBox::changeEvent(&fontChange);
+    setIconSize(QSize(1, RowHeight));
+    view()->viewport()->setFocusPolicy(Qt::NoFocus);
+    // Set after view(): making the popup installs Qt's own delegate.
+    setItemDelegate(new CSFQTComboDelegate(RowHeight, this));
+    if (m_sheetWanted)
+        ApplySheet();
+}
+
+void CSFQTComboBox::ApplySheet()
+{
+    if (m_sheetWanted && styleSheet().isEmpty())
+        setStyleSheet(ComboStyleSheet());
 }

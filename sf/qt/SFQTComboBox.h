@@ -9,8 +9,6 @@
 #include <QPixmap>
 #include <QRect>
 
-class QCommonStyle;
-
 class CSFQTComboBox : public QComboBox, public CSFComboBox {
     Q_OBJECT
 public:
@@ -62,6 +60,7 @@ protected:
     void leaveEvent(QEvent* e) override;
     void focusInEvent(QFocusEvent* e) override;
     void wheelEvent(QWheelEvent* e) override;
+    void changeEvent(QEvent* e) override;
 
 private:
     struct SliceInfo {
@@ -73,12 +72,15 @@ private:
     void Connect();
     void Disconnect();
     bool PopupActive() const;
+    void MakePopup();
+    void ApplySheet();
 
     SliceInfo m_slices[SliceCount];
     int m_state;
     QPixmap m_image;
     int m_popupOpen;
     int m_originStyle;
-    QCommonStyle* m_style;
+    int m_sheetWanted;
+    int m_popupMade;
     QMetaObject::Connection m_selectConnection;
 };

@@ -171,29 +171,32 @@ TEST_F(ComboFixture, TheWheelChangesNothing)
     EXPECT_EQ(handler.Count("select"), 0);
 }
 
-TEST(ComboLifetime, DestroyedAfterItsPopupWasOpenedFromCode)
+TEST(ComboLifetime, PopupMadeOnFirstOpeningAndFreedWithTheCombo)
 {
-    // The popup's style sheet style leans on the combo's own style while the
-    // combo's children go down.
+    // The popup's style sheet style leans on the combo's plain style while
+    // the combo's children go down.
     CTestSkin skin;
     WriteComboStrip(skin.Dir());
     CInputsHost host;
     for (int round = 0; round < 2; ++round) {
         auto* combo = static_cast<CSFQTComboBox*>(SFCreateComboBox(nullptr));
-        // Its own plain style, until a style sheet wraps it.
-        QPointer<QStyle> plain = combo->style();
-        EXPECT_EQ(plain->metaObject()->className(), QByteArray("QCommonStyle"));
         combo->Create(SF_WS_VISIBLE, tagRECT{ 10, 10, 141, 36 }, host.Handle(), 1);
         ImageComboBoxStyle style = RowStyle();
         combo->SetSkin(&style);
         combo->AddString(L"a");
         combo->AddString(L"b");
+        QApplication::processEvents();
+        EXPECT_TRUE(combo->findChildren<QAbstractItemView*>().isEmpty());
+        EXPECT_TRUE(combo->styleSheet().isEmpty());
         combo->showPopup();
         EXPECT_TRUE(combo->PopupOpen());
+        EXPECT_FALSE(combo->styleSheet().isEmpty());
+        QPointer<QAbstractItemView> view = combo->view();
+        EXPECT_EQ(view->visualRect(combo->model()->index(1, 0)).height(), CSFQTComboBox::RowHeight);
         if (round == 0)
             combo->hidePopup();
         SFDestroyControl(static_cast<CSFComboBox*>(combo));
-        EXPECT_TRUE(plain.isNull());
+        EXPECT_TRUE(view.isNull());
     }
 }
 

@@ -4,10 +4,13 @@
 #include "PageTestSupport.h"
 #include "TallixEventImp.h"
 
+#include <QAbstractItemView>
+#include <QComboBox>
 #include <QCoreApplication>
 #include <QDir>
 #include <QImage>
 #include <QScrollBar>
+#include <QTest>
 #include <QWidget>
 #include <gtest/gtest.h>
 
@@ -49,6 +52,12 @@ TEST(PageScreens, FiveRowsInEachCalculatorMode)
     across->setValue(across->maximum());
     EXPECT_TRUE(main.Window()->grab().save(dir + QStringLiteral("page_right.png")));
     across->setValue(0);
+    // A row's popup, made on its first opening, in the look of the others.
+    auto* combo = qobject_cast<QComboBox*>(d.Combo(0, ColResolution));
+    UserClick(combo);
+    ASSERT_TRUE(QTest::qWaitFor([combo] { return combo->view()->isVisible(); }, 2000));
+    EXPECT_TRUE(combo->view()->window()->grab().save(dir + QStringLiteral("page_popup.png")));
+    QTest::keyClick(combo->view(), Qt::Key_Escape);
     for (int mode = 0; mode < 4; ++mode) {
         d.ClickMode(radios[mode]);
         EXPECT_EQ(d.Calculator()->GetMode(), mode);
