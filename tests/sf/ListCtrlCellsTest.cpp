@@ -11,11 +11,15 @@
 
 #include <QAbstractButton>
 #include <QComboBox>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QPointer>
 #include <QSpinBox>
 #include <QTest>
 #include <algorithm>
+#include <map>
+#include <string>
+#include <vector>
 #include <gtest/gtest.h>
 
 namespace {
@@ -193,6 +197,36 @@ TEST_F(ListCells, DeleteButtonSelectsItsRowAndReportsOnBothRoads)
     EXPECT_EQ(list->GetItemCount(), 2);
     EXPECT_EQ(Sorted(list->RegisterRows(R::DeleteButtons)), Range(2));
     FlushDeletes();
+}
+
+TEST_F(ListCells, SortingMovesEachRowWithItsControls)
+{
+    AddRows(4);
+    const wchar_t* numbers[] = { L"3", L"1", L"4", L"2" };
+    std::map<std::wstring, std::vector<void*>> controlsOf;
+    for (int row = 0; row < 4; ++row) {
+        list->SetItemText(row, 0, numbers[row]);
+        for (int reg = 0; reg < R::RegisterCount; ++reg)
+            controlsOf[numbers[row]].push_back(list->RegisterControl(static_cast<R::Register>(reg), row));
+    }
+    list->SetHeaderSortEnable(1);
+    QHeaderView* header = list->horizontalHeader();
+    QTest::mouseClick(header->viewport(), Qt::LeftButton, Qt::NoModifier,
+                      QPoint(header->sectionViewportPosition(0) + 5, header->height() / 2));
+
+    for (int row = 0; row < 4; ++row) {
+        const std::wstring number = ItemText(list, row, 0);
+        EXPECT_EQ(number, std::to_wstring(row + 1));
+        for (int reg = 0; reg < R::RegisterCount; ++reg) {
+            const auto r = static_cast<R::Register>(reg);
+            EXPECT_EQ(list->RegisterControl(r, row), controlsOf[number][reg]) << row << " " << reg;
+        }
+        // The combo still lives in the page of its own row's cell.
+        QWidget* page = list->indexWidget(list->model()->index(row, 2));
+        ASSERT_NE(page, nullptr);
+        EXPECT_EQ(RowWidget(list, R::CompressionCombos, row)->parentWidget(), page);
+        EXPECT_EQ(page->objectName(), QStringLiteral("cell_%1_2").arg(row));
+    }
 }
 
 } // namespace

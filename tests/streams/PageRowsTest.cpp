@@ -2,10 +2,17 @@
 // real main window.
 #include "CalculatorBottom.h"
 #include "PageTestSupport.h"
+#include "SFComboBox.h"
+#include "SFEditCtrl.h"
+#include "SFListCtrlIds.h"
+#include "SFNumSpiner.h"
 
 #include <QApplication>
 #include <QString>
+#include <QStringList>
 #include <functional>
+#include <utility>
+#include <vector>
 #include <gtest/gtest.h>
 #include <QDialog>
 
@@ -110,6 +117,53 @@ const RowCase kRowCases[] = {
       { false, 0, false, true, D1, Custom, "4198", "123" } },
 };
 
+// What a user sees of row 0 and the totals.
+QStringList Snapshot(CPageDriver& d)
+{
+    QStringList seen;
+    for (RowColumn col : { ColCompression, ColEnvironment, ColResolution, ColFrameRate })
+        seen << QString::number(d.Index(0, col));
+    seen << QString::number(d.ComboEnabled(0, ColEnvironment)) << QString::number(d.PreviewShown(0))
+         << QString::number(d.CustomRateShown(0)) << d.CustomRateText(0) << d.Text(0, ColBitrate)
+         << QString::number(d.Calculator()->GetChannels())
+         << QString::number(d.Calculator()->GetTotalBitrate(), 'f', 0);
+    return seen;
+}
+
+// Each handler of row 0, fed what its control now holds, as a repeated
+// signal would feed it.
+std::vector<std::function<void()>> RowHandlers(CPageDriver& d)
+{
+    using R = CSFQTListCtrl;
+    R* list = d.List();
+    std::vector<std::function<void()>> handlers;
+    const std::pair<R::Register, unsigned int> combos[] = {
+        { R::CompressionCombos, SF_LIST_ID_COMPRESSION }, { R::EnvironmentCombos, SF_LIST_ID_ENVIRONMENT },
+        { R::ResolutionCombos, SF_LIST_ID_RESOLUTION }, { R::FrameRateCombos, SF_LIST_ID_FRAMERATE }
+    };
+    for (const auto& [reg, id] : combos) {
+        auto* combo = static_cast<CSFComboBox*>(list->RegisterControl(reg, 0));
+        handlers.push_back([list, combo, id = id] {
+            list->SelectChanged(static_cast<int>(id), combo->GetCurSel(), combo);
+        });
+    }
+    const std::pair<R::Register, unsigned int> edits[] = { { R::CustomRateEdits, 0u },
+                                                           { R::BitrateEdits, SF_LIST_ID_COMPRESSION } };
+    for (const auto& [reg, id] : edits) {
+        auto* edit = static_cast<CSFEditCtrl*>(list->RegisterControl(reg, 0));
+        handlers.push_back([list, edit, id = id] {
+            wchar_t text[32] = {};
+            edit->GetWindowTextW(text, 32);
+            list->EDIT_OnTextChange(id, text, edit);
+        });
+    }
+    auto* spinner = static_cast<CSFNumSpiner*>(list->RegisterControl(R::ChannelSpiners, 0));
+    handlers.push_back([list, spinner] {
+        list->OnCurrentNumChanged(0, spinner->GetCurrentNum(), spinner, 0);
+    });
+    return handlers;
+}
+
 } // namespace
 
 TEST_P(RowStates, UserActionsLeaveTheRowInItsState)
@@ -134,6 +188,15 @@ TEST_P(RowStates, UserActionsLeaveTheRowInItsState)
     const double shown = d.Text(0, ColBitrate).toDouble();
     EXPECT_EQ(d.Calculator()->GetTotalBitrate(), shown);
     EXPECT_EQ(d.Calculator()->GetChannels(), shown == 0 ? 0 : 1);
+
+    // A handler passed through twice ends where it ended the first time.
+    const auto handlers = RowHandlers(d);
+    for (size_t i = 0; i < handlers.size(); ++i) {
+        handlers[i]();
+        const QStringList once = Snapshot(d);
+        handlers[i]();
+        EXPECT_EQ(Snapshot(d), once) << "handler " << i;
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Page, RowStates, testing::ValuesIn(kRowCases),
