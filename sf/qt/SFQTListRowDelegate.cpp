@@ -31,6 +31,8 @@ void CSFQTListRowDelegate::updateEditorGeometry(QWidget* editor,
                                                 const QStyleOptionViewItem& option,
                                                 const QModelIndex&) const
 {
-    if (editor)
+    // Qt asks again for every cell page on each layout; moving a page to
+    // where it stands would only make its parent recount what covers what.
+    if (editor && editor->geometry() != option.rect)
         editor->setGeometry(option.rect);
 }
