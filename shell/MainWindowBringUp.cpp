@@ -1,10 +1,13 @@
 #include "MainWindowBringUp.h"
 
 #include "DialogStyle.h"
+#include "FirstPaintReport.h"
 #include "LangString.h"
 #include "MainDlgEventImp.h"
 #include "SFDialog.h"
 #include "SFFactory.h"
+
+#include <QWidget>
 
 CSFDialog* BringUpMainWindow(DialogStyle& style, CMainDlgEventImp*& event)
 {
@@ -19,6 +22,7 @@ CSFDialog* BringUpMainWindow(DialogStyle& style, CMainDlgEventImp*& event)
     dlg->Create(GetLangString(L"ProductName", 0), nullptr);
     dlg->MoveWindow(0, 0, 1100, 750);
     dlg->CenterWindow(nullptr);
+    FirstPaintReport::WatchIfAsked(dynamic_cast<QWidget*>(dlg));
     dlg->ShowWindow(1);
     return dlg;
 }
