@@ -8,6 +8,8 @@
 #include "WindowSkins.h"
 
 #include <QDir>
+#include <QHash>
+#include <QList>
 #include <QPainter>
 
 SkinCatalog::SkinCatalog()
@@ -39,6 +41,34 @@ QImage SkinCatalog::render(const SkinEntry& entry)
     return image.convertToFormat(QImage::Format_ARGB32);
 }
 
+// An image of at most 256 colours is stored with a palette, exactly: one
+// byte a pixel is a quarter of what the program has to decode.
+QImage SkinCatalog::Compact(const QImage& image)
+{
+    QList<QRgb> palette;
+    QHash<QRgb, int> seen;
+    for (int y = 0; y < image.height(); ++y) {
+        const auto* line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+        for (int x = 0; x < image.width(); ++x) {
+            if (seen.contains(line[x]))
+                continue;
+            if (palette.size() == 256)
+                return image;
+            seen.insert(line[x], static_cast<int>(palette.size()));
+            palette.append(line[x]);
+        }
+    }
+    QImage indexed(image.size(), QImage::Format_Indexed8);
+    indexed.setColorTable(palette);
+    for (int y = 0; y < image.height(); ++y) {
+        const auto* line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+        uchar* out = indexed.scanLine(y);
+        for (int x = 0; x < image.width(); ++x)
+            out[x] = static_cast<uchar>(seen.value(line[x]));
+    }
+    return indexed;
+}
+
 bool SkinCatalog::writeAll(const QString& directory, QString* error) const
 {
     QDir dir(directory);
@@ -49,7 +79,9 @@ bool SkinCatalog::writeAll(const QString& directory, QString* error) const
     }
     for (const SkinEntry& e : m_entries) {
         const QString path = dir.filePath(e.name);
-        if (!render(e).save(path, "PNG")) {
+        // Stored uncompressed: the program decodes the skins on its way up,
+        // and inflating them cost more than reading the larger files.
+        if (!Compact(render(e)).save(path, "PNG", 100)) {
             if (error)
                 *error = QStringLiteral("cannot write ") + path;
             return false;

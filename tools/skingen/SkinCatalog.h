@@ -23,5 +23,7 @@ public:
     bool writeAll(const QString& directory, QString* error) const;
 
 private:
+    static QImage Compact(const QImage& image);
+
     std::vector<SkinEntry> m_entries;
 };

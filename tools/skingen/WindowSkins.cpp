@@ -43,11 +43,17 @@ void WindowSkins::toolbar(QPainter& p, const QSize& size)
     // Faint highlight along the top edge.
     SkinShapes::hLine(p, 0, w - 1, 0, SkinShapes::mix(SkinPalette::chromeHigh(), Qt::white, 0.10));
     // Accent rule along the bottom, fading out towards the window controls.
-    QLinearGradient rule(0, 0, w, 0);
-    rule.setColorAt(0.0, SkinPalette::accent());
-    rule.setColorAt(0.55, SkinShapes::mix(SkinPalette::accent(), SkinPalette::chromeLow(), 0.35));
-    rule.setColorAt(1.0, SkinShapes::mix(SkinPalette::accent(), SkinPalette::chromeLow(), 0.85));
-    p.fillRect(QRect(0, h - 2, w, 2), rule);
+    // In 40 even steps rather than a smooth gradient: the window frames then
+    // keep to 256 colours and are stored with a palette.
+    constexpr int kSteps = 40;
+    for (int i = 0; i < kSteps; ++i) {
+        const double t = (i + 0.5) / kSteps;
+        const double fade = t < 0.55 ? 0.35 * t / 0.55 : 0.35 + 0.5 * (t - 0.55) / 0.45;
+        const int x0 = w * i / kSteps;
+        const int x1 = w * (i + 1) / kSteps;
+        p.fillRect(QRect(x0, h - 2, x1 - x0, 2),
+                   SkinShapes::mix(SkinPalette::accent(), SkinPalette::chromeLow(), fade));
+    }
     SkinShapes::vLine(p, 0, 0, h - 1, SkinPalette::chromeDeep());
     SkinShapes::vLine(p, w - 1, 0, h - 1, SkinPalette::chromeDeep());
 }
