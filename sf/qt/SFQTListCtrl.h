@@ -25,6 +25,8 @@
 #include <QRect>
 #include <QSet>
 #include <QTableWidget>
+#include <cstddef>
+#include <vector>
 
 class CSFButton;
 class CSFComboBox;
@@ -215,16 +217,42 @@ private:
     {
         return reg.value(static_cast<T*>(const_cast<void*>(control)), -1);
     }
-    // First entry of reg whose row is row, null when none.
+    // First entry of reg whose row is row, null when none. The totals pass
+    // asks this of every row, so each register keeps an index by row beside
+    // it, rebuilt after the registers change; the register has the last word.
     template <class T>
-    static T* ControlOfRow(const QMap<T*, int>& reg, int row)
+    T* ControlOfRow(const QMap<T*, int>& reg, int row) const
     {
+        if (row < 0)
+            return nullptr;
+        RowIndex& index = m_rowIndexes[&reg];
+        if (index.generation != m_registerGeneration) {
+            index.rows.clear();
+            for (auto it = reg.cbegin(); it != reg.cend(); ++it) {
+                const auto r = static_cast<std::size_t>(it.value());
+                if (it.value() < 0 || r > static_cast<std::size_t>(reg.size()) + 1024)
+                    continue;
+                if (r >= index.rows.size())
+                    index.rows.resize(r + 1, nullptr);
+                if (!index.rows[r])
+                    index.rows[r] = it.key();
+            }
+            index.generation = m_registerGeneration;
+        }
+        T* found = static_cast<std::size_t>(row) < index.rows.size()
+                       ? static_cast<T*>(index.rows[static_cast<std::size_t>(row)])
+                       : nullptr;
+        if (found && reg.value(found, -1) == row)
+            return found;
+        // A change the index missed: the walk is always right.
         for (auto it = reg.cbegin(); it != reg.cend(); ++it) {
             if (it.value() == row)
                 return it.key();
         }
         return nullptr;
     }
+    // After any change to a register.
+    void RegistersChanged() { ++m_registerGeneration; }
     template <class F>
     void ForEachRegister(F f);
 
@@ -276,6 +304,12 @@ private:
     QMap<CSFEditCtrl*, int> m_cellEdits;
     QMap<QProgressBar*, int> m_progressBars;
     QHash<const void*, CellControl> m_cellControls;
+    struct RowIndex {
+        unsigned long generation = 0;
+        std::vector<void*> rows;
+    };
+    mutable QHash<const void*, RowIndex> m_rowIndexes;
+    unsigned long m_registerGeneration = 1;
 
     QColor m_rowColor1;
     QColor m_rowColor2;

@@ -74,6 +74,7 @@ void CSFQTListCtrl::Enrol(QMap<T*, int>& reg, T* control, int row, int col, unsi
                           CellKind kind)
 {
     reg.insert(control, row);
+    RegistersChanged();
     m_cellControls.insert(control, CellControl{ id, kind,
                                                 QPersistentModelIndex(model()->index(row, col)),
                                                 dynamic_cast<QWidget*>(control) });

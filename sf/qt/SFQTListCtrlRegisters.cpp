@@ -117,6 +117,7 @@ bool CSFQTListCtrl::IsHeaderCheck(const void* sender) const
 // Drops the controls of one cell, whose page is about to be replaced.
 void CSFQTListCtrl::ForgetCell(int row, int col)
 {
+    RegistersChanged();
     // Controls live only in a cell's page: a cell without one has none, and
     // a new row is not worth a walk of every register.
     if (!indexWidget(model()->index(row, col)))
@@ -138,6 +139,7 @@ void CSFQTListCtrl::ForgetCell(int row, int col)
 // The row's entries go and every entry above moves down by one.
 void CSFQTListCtrl::ForgetRow(int row)
 {
+    RegistersChanged();
     ForEachRegister([this, row](auto& reg) {
         for (auto it = reg.begin(); it != reg.end();) {
             if (it.value() == row) {
@@ -154,6 +156,7 @@ void CSFQTListCtrl::ForgetRow(int row)
 
 void CSFQTListCtrl::ForgetAll()
 {
+    RegistersChanged();
     ForEachRegister([](auto& reg) { reg.clear(); });
     m_cellControls.clear();
 }
@@ -162,6 +165,7 @@ void CSFQTListCtrl::ForgetAll()
 // control's row is where its cell now stands.
 void CSFQTListCtrl::SyncRegistersFromCells()
 {
+    RegistersChanged();
     ForEachRegister([this](auto& reg) {
         for (auto it = reg.begin(); it != reg.end();) {
             const auto found = m_cellControls.constFind(it.key());
