@@ -7,6 +7,7 @@
 
 #include "BoundedFormat.h"
 #include "CapacityUnits.h"
+#include "DiskRequirement.h"
 #include "SaturatingTruncate.h"
 
 namespace {
@@ -33,6 +34,36 @@ INSTANTIATE_TEST_SUITE_P(Units, CapacityTextTest, ::testing::Values(
     CapacityCase{10001.0 * 1024 * 1024, L"9.77EB"},
     // EB is the last unit: no further step however large.
     CapacityCase{1e20, L"93132257461.55EB"}));
+
+struct DiskCase {
+    int nDays;
+    double dRate;
+    const wchar_t* pszText;
+};
+
+class DiskRequirementTest : public ::testing::TestWithParam<DiskCase> {};
+
+TEST_P(DiskRequirementTest, TextAndFlash)
+{
+    const CalcResult result = CalcDiskRequirement(GetParam().nDays, GetParam().dRate);
+    EXPECT_EQ(result.strValue, GetParam().pszText);
+    EXPECT_TRUE(result.bTwinkle);
+    EXPECT_FALSE(result.bFixValueRect);
+}
+
+INSTANTIATE_TEST_SUITE_P(Answers, DiskRequirementTest, ::testing::Values(
+    // 7 * 2048 * 3600 * 24 / 1024 / 8 / 1024 = 147.65625
+    DiskCase{7, 2048.0, L"147.66GB"},
+    // 126562.5 GB
+    DiskCase{30, 409600.0, L"123.60TB"},
+    DiskCase{3650, 1e15, L"35011993.30EB"}));
+
+TEST(DiskRequirementZeroTest, ZeroRateIsNotFlashed)
+{
+    const CalcResult result = CalcDiskRequirement(3650, 0.0);
+    EXPECT_EQ(result.strValue, L"0.00GB");
+    EXPECT_FALSE(result.bTwinkle);
+}
 
 struct BitrateCase {
     double dKbps;

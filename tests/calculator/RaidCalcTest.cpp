@@ -1,10 +1,61 @@
 #include <gtest/gtest.h>
 
+#include <vector>
+
 #include "DeviceCount.h"
 #include "RaidCapacity.h"
 #include "RaidTables.h"
 
 namespace {
+
+std::size_t CountDataDisks(const CRaidTables& tables)
+{
+    std::size_t nCount = 0;
+    for (const auto& device : tables.GetDataDisks())
+        for (const auto& level : device.second)
+            nCount += level.second.size();
+    return nCount;
+}
+
+TEST(RaidTablesTest, LookupsOutsideTheTablesFindNothingAndInsertNothing)
+{
+    const CRaidTables tables;
+    EXPECT_EQ(CountDataDisks(tables), 40u);
+    EXPECT_EQ(tables.LookupDataDisks(4, 0, 0), 0);
+    EXPECT_EQ(tables.LookupDataDisks(-1, -1, -1), 0);
+    EXPECT_EQ(tables.LookupBayCount(4, 0, 0), 0);
+    EXPECT_EQ(tables.FindBayOptions(-1, 0), nullptr);
+    // KTR6 with RAID 0 offers two bay counts: indexes past them find nothing.
+    EXPECT_EQ(tables.LookupBayCount(0, 0, 2), 0);
+    EXPECT_EQ(tables.LookupBayCount(0, 0, static_cast<unsigned>(-1)), 0);
+    EXPECT_EQ(tables.LookupDataDisks(0, 0, 2), 0);
+    EXPECT_EQ(tables.LookupDataDisks(0, 0, -1), 0);
+    EXPECT_EQ(CountDataDisks(tables), 40u);
+}
+
+TEST(RaidTablesTest, RememberedBaysFollowTheUser)
+{
+    const CRaidTables tables;
+    // First rebuild after start: 0 is in no list.
+    int nRemembered = 0;
+    EXPECT_EQ(CRaidTables::SelectRememberedBays(*tables.FindBayOptions(0, 0), nRemembered), -1);
+    EXPECT_EQ(nRemembered, 8);
+    // The user picks "16 bay" on KTR6.
+    nRemembered = tables.LookupBayCount(0, 0, 1);
+    EXPECT_EQ(nRemembered, 16);
+    // MQS71 with RAID 5 offers no 16: back to its smallest offer.
+    EXPECT_EQ(CRaidTables::SelectRememberedBays(*tables.FindBayOptions(3, 1), nRemembered), -1);
+    EXPECT_EQ(nRemembered, 24);
+    // MQS50 offers 24 at its second place.
+    EXPECT_EQ(CRaidTables::SelectRememberedBays(*tables.FindBayOptions(1, 1), nRemembered), 1);
+    EXPECT_EQ(nRemembered, 24);
+
+    std::vector<int> vecEmpty;
+    nRemembered = 36;
+    EXPECT_EQ(CRaidTables::SelectRememberedBays(vecEmpty, nRemembered), -1);
+    EXPECT_EQ(nRemembered, 0);
+}
+
 
 struct CapacityCase {
     int nDevice;

@@ -1,9 +1,12 @@
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <limits>
 #include <string>
 
 #include "CapacityTable.h"
 #include "RecordingDays.h"
+#include "WeeklyPlan.h"
 
 namespace {
 
@@ -44,8 +47,6 @@ TEST_P(CapacityItemTest, RealSizeAndAnswers)
 INSTANTIATE_TEST_SUITE_P(Items, CapacityItemTest, ::testing::Values(
     ItemCase{0, 29.80232, L"1  Day 6.52 Hour", L"0 Week 1 Day 6.52 Hour"},
     ItemCase{3, 953.67424, L"40  Day 16.56 Hour", L"5 Week 5 Day 16.56 Hour"},
-    ItemCase{9, 9536.7424, L"406  Day 21.62 Hour", L"58 Week 0 Day 21.62 Hour"},
-    ItemCase{10, 11444.09088, L"488  Day 6.75 Hour", L"69 Week 5 Day 6.75 Hour"},
     ItemCase{12, 15258.78784, L"651  Day 1.00 Hour", L"93 Week 0 Day 1.00 Hour"}));
 
 TEST(CapacityTableTest, IndexWithoutRowIsZero)
@@ -70,8 +71,6 @@ TEST_P(PercentageTest, ScalesTheUsableCapacity)
 INSTANTIATE_TEST_SUITE_P(Settings, PercentageTest, ::testing::Values(
     PercentCase{0, L"0  Day 0.00 Hour"},
     PercentCase{50, L"22  Day 14.53 Hour"},
-    // usable 858.306816, per day 21.09375: 40.6901 days
-    PercentCase{90, L"40  Day 16.56 Hour"},
     PercentCase{120, L"54  Day 6.08 Hour"}));
 
 struct CustomCase {
@@ -111,21 +110,6 @@ TEST(RecordingDaysTest, ZeroRateInEveryPlan)
     }
 }
 
-TEST(RecordingDaysTest, WeeklyExampleOfFiveWorkingDays)
-{
-    // remain 488.28 hours over 40-hour weeks: 12 weeks, Sunday whole, 0.28 left.
-    const double adHours[kPlanDayCount] = {8, 8, 8, 8, 8, 0, 0};
-    const CalcResult result = Weekly(4096.0, g_aCapacityReal[3], 90, adHours);
-    EXPECT_EQ(result.strValue, L"12 Week 1 Day 0.28 Hour");
-    EXPECT_TRUE(result.bTwinkle);
-}
-
-TEST(RecordingDaysTest, WeeklyAllZeroDays)
-{
-    const double adZero[kPlanDayCount] = {};
-    EXPECT_EQ(Weekly(2048.0, g_aCapacityReal[12], 90, adZero).strValue, L"0 Week 0 Day 0.00 Hour");
-}
-
 TEST(RecordingDaysTest, TinyRateDoesNotHang)
 {
     const double adHours[kPlanDayCount] = {8, 8, 8, 8, 8, 0, 0};
@@ -133,5 +117,74 @@ TEST(RecordingDaysTest, TinyRateDoesNotHang)
     EXPECT_FALSE(result.strValue.empty());
     EXPECT_FALSE(AllDay(1e-320, g_aCapacityReal[12], 90).strValue.empty());
 }
+
+struct WalkCase {
+    const char* pszName;
+    double dRemain;
+    double adHours[kPlanDayCount];
+    long long nWeeks;
+    long long nDays;
+    double dHoursLeft;
+};
+
+class WeeklyWalkTest : public ::testing::TestWithParam<WalkCase> {};
+
+TEST_P(WeeklyWalkTest, WalksFromSunday)
+{
+    const WalkCase& c = GetParam();
+    const WeeklyPlanAnswer answer = WalkWeeklyPlan(c.dRemain, c.adHours);
+    EXPECT_EQ(answer.nWeeks, c.nWeeks);
+    EXPECT_EQ(answer.nWholeWeekDays, c.nDays);
+    EXPECT_NEAR(answer.dHoursLeft, c.dHoursLeft, 1e-9);
+}
+
+INSTANTIATE_TEST_SUITE_P(Plans, WeeklyWalkTest, ::testing::Values(
+    WalkCase{"NothingLeft", 0.0, {24, 24, 24, 24, 24, 24, 24}, 0, 0, 0.0},
+    WalkCase{"AllZeroDays", 1000.0, {0, 0, 0, 0, 0, 0, 0}, 0, 0, 0.0},
+    WalkCase{"ExactWeek", 168.0, {24, 24, 24, 24, 24, 24, 24}, 1, 0, 0.0},
+    // A day that uses up the last hour exactly still counts as a whole day;
+    // the next day with hours ends the walk with remain + hours, here 0.
+    WalkCase{"ExactSunday", 24.0, {24, 24, 24, 24, 24, 24, 24}, 0, 1, 0.0},
+    // A zero day after the exact one is walked over as well.
+    WalkCase{"ExactThenZeroDay", 24.0 + 144.0 * 2, {24, 0, 24, 24, 24, 24, 24}, 2, 2, 0.0},
+    WalkCase{"WorkingWeek", 488.28125, {8, 8, 8, 8, 8, 0, 0}, 12, 1, 0.28125},
+    WalkCase{"ZeroSundayWalkedOver", 35.0, {0, 10, 0, 0, 0, 0, 0}, 3, 1, 5.0},
+    WalkCase{"NotANumber", std::nan(""), {8, 8, 8, 8, 8, 0, 0}, 0, 0, 0.0},
+    // So large that weeks * weekHours rounds down: the walk passes the week
+    // many times, counting every day walked over and weeks completed on top.
+    WalkCase{"RoundingLeavesWeeks", 3.667413639808196e+18, {8, 8, 8, 8, 8, 0, 0},
+             91685340995204908LL, 88, 0.0}),
+    [](const ::testing::TestParamInfo<WalkCase>& info) { return std::string(info.param.pszName); });
+
+TEST(WeeklyWalkGuardTest, EndlessHoursStillAnswer)
+{
+    const double adHours[kPlanDayCount] = {8, 8, 8, 8, 8, 0, 0};
+    const WeeklyPlanAnswer inf = WalkWeeklyPlan(std::numeric_limits<double>::infinity(), adHours);
+    EXPECT_GT(inf.nWeeks, 0);
+    const WeeklyPlanAnswer huge = WalkWeeklyPlan(1e30, adHours);
+    EXPECT_GT(huge.nWeeks, 0);
+    // A plan that gives hours back can never use them up.
+    const double adOdd[kPlanDayCount] = {-1, 0, 0, 0, 0, 0, 0};
+    EXPECT_GT(WalkWeeklyPlan(0.5, adOdd).nWeeks, 0);
+}
+
+struct DayTextCase {
+    const wchar_t* pszText;
+    double dHours;
+};
+
+class DayHoursTest : public ::testing::TestWithParam<DayTextCase> {};
+
+TEST_P(DayHoursTest, ReadsLikeWtol)
+{
+    EXPECT_EQ(DayHoursFromText(GetParam().pszText), GetParam().dHours);
+}
+
+INSTANTIATE_TEST_SUITE_P(Texts, DayHoursTest, ::testing::Values(
+    DayTextCase{L"24", 24.0},
+    DayTextCase{nullptr, 0.0},
+    DayTextCase{L"12abc", 12.0},
+    // Read with a count of 6: five characters.
+    DayTextCase{L"123456", 12345.0}));
 
 } // namespace

@@ -1,23 +1,21 @@
-// Guards the language files shipped beside the program: they must load with
-// the program's loader and answer every key the code looks up.
-
-#include "DictionaryFile.h"
-#include "SourceKeyScanner.h"
+// The language files shipped beside the program: they load as the program
+// loads them and answer every key the code looks up.
 
 #include <gtest/gtest.h>
 #include <tinyxml.h>
 
-#include <cstdint>
 #include <filesystem>
 #include <fstream>
 #include <map>
+#include <regex>
 #include <set>
+#include <sstream>
 #include <string>
-#include <vector>
 
 namespace {
 
 namespace fs = std::filesystem;
+using Texts = std::map<std::string, std::string>;
 
 const std::string kDataDir = std::string(TALLIX_SOURCE_DIR) + "/data/";
 
@@ -72,162 +70,71 @@ long Utf8Length(const std::string& s)
     return count;
 }
 
-std::map<std::string, std::string> AsMap(const CDictionaryFile& dict)
+// Every child of the root must be an element with a name and a value, each
+// key there once, its text UTF-8 and short enough for the lookup's buffer.
+Texts Load(const std::string& file)
 {
-    return std::map<std::string, std::string>(dict.Entries().begin(), dict.Entries().end());
+    Texts texts;
+    TiXmlDocument doc;
+    if (!doc.LoadFile((kDataDir + file).c_str()) || !doc.RootElement()) {
+        ADD_FAILURE() << file << ": " << doc.ErrorDesc();
+        return texts;
+    }
+    for (const TiXmlNode* node = doc.RootElement()->FirstChild(); node; node = node->NextSibling()) {
+        const TiXmlElement* e = node->ToElement();
+        const char* key = e ? e->Attribute("name") : nullptr;
+        const char* text = e ? e->Attribute("value") : nullptr;
+        if (!key || !text) {
+            ADD_FAILURE() << file << " line " << node->Row() << " is no entry with a name and a value";
+            continue;
+        }
+        EXPECT_TRUE(texts.emplace(key, text).second) << "duplicate key \"" << key << "\"";
+        EXPECT_GE(Utf8Length(key), 0) << "key is no UTF-8: " << key;
+        const long n = Utf8Length(text);
+        EXPECT_TRUE(n > 0 && n < 1024) << "text of \"" << key << "\" is empty, too long or no UTF-8";
+    }
+    EXPECT_FALSE(texts.empty()) << file;
+    return texts;
 }
 
-std::set<std::string> KeysOf(const CDictionaryFile& dict)
+// Keys of GetLangString(L"...") calls in the program's sources: not the
+// tests, hidden folders or build trees.
+std::set<std::string> KeysInSources()
 {
+    const std::regex call(R"re(GetLangString\s*\(\s*L"([^"\\\n]+)")re");
     std::set<std::string> keys;
-    for (const auto& e : dict.Entries())
-        keys.insert(e.first);
+    int files = 0;
+    for (fs::recursive_directory_iterator it(TALLIX_SOURCE_DIR), end; it != end; ++it) {
+        const fs::path& p = it->path();
+        const std::string name = p.filename().string();
+        if (it->is_directory()) {
+            if (name == "tests" || name[0] == '.' || name.rfind("build", 0) == 0
+                || fs::exists(p / "CMakeCache.txt"))
+                it.disable_recursion_pending();
+            continue;
+        }
+        if (p.extension() != ".cpp" && p.extension() != ".h")
+            continue;
+        std::stringstream text;
+        text << std::ifstream(p).rdbuf();
+        const std::string s = text.str();
+        for (std::sregex_iterator m(s.begin(), s.end(), call), end; m != end; ++m)
+            keys.insert((*m)[1]);
+        ++files;
+    }
+    EXPECT_GT(files, 0) << "no sources below " << TALLIX_SOURCE_DIR;
     return keys;
 }
 
-// --- the key scanner itself, so a silent miss cannot hide missing keys ---
+class Dictionary : public ::testing::TestWithParam<const char*> {};
 
-struct ExtractCase {
-    const char* name;
-    const char* source;
-    std::set<std::string> keys;
-};
-
-class SourceKeyExtraction : public ::testing::TestWithParam<ExtractCase> {};
-
-TEST_P(SourceKeyExtraction, FindsExactlyTheLiteralKeys)
+TEST_P(Dictionary, AnswersEveryKeyTheSourcesAndPagesAskFor)
 {
-    EXPECT_EQ(CSourceKeyScanner::ExtractKeys(GetParam().source), GetParam().keys);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Cases, SourceKeyExtraction,
-    ::testing::Values(
-        ExtractCase{"Plain", "s->SetText(GetLangString(L\"Close\", 0));", {"Close"}},
-        ExtractCase{"BlanksKept", "GetLangString( L\"Recordable  Space\" , 0)", {"Recordable  Space"}},
-        ExtractCase{"ArgumentOnNextLine", "GetLangString(\n        L\"Day\", 0)", {"Day"}},
-        ExtractCase{"EscapedQuote", "GetLangString(L\"Say \\\"hi\\\"\", 0)", {"Say \"hi\""}},
-        ExtractCase{"EscapedBackslash", "GetLangString(L\"a\\\\b\", 0)", {"a\\b"}},
-        ExtractCase{"TwoInOneLine", "f(GetLangString(L\"A\", 0), GetLangString(L\"B\", 0));", {"A", "B"}},
-        ExtractCase{"Utf8Key", "GetLangString(L\"\xE4\xB8\xAD\", 0)", {"\xE4\xB8\xAD"}},
-        ExtractCase{"EmptyKeySkipped", "GetLangString(L\"\", 0)", {}},
-        ExtractCase{"VariableIgnored", "GetLangString(key, 0)", {}},
-        ExtractCase{"NarrowLiteralIgnored", "GetLangString(\"x\", 0)", {}},
-        ExtractCase{"Declaration", "const wchar_t* GetLangString(const wchar_t* key, int reserved);", {}},
-        ExtractCase{"LineComment", "// GetLangString(L\"Old\", 0)\nGetLangString(L\"New\", 0)", {"New"}},
-        ExtractCase{"BlockComment", "/* GetLangString(L\"Old\", 0) */ x = 1;", {}},
-        ExtractCase{"InsideStringLiteral", "const char* s = \"GetLangString(L\\\"x\\\")\";", {}},
-        ExtractCase{"OtherIdentifier", "MyGetLangString(L\"x\"); GetLangStringEx(L\"y\");", {}},
-        ExtractCase{"CharConstantQuote", "c = '\"'; GetLangString(L\"K\", 0);", {"K"}},
-        ExtractCase{"Unterminated", "GetLangString(L\"open", {}}),
-    [](const ::testing::TestParamInfo<ExtractCase>& info) { return std::string(info.param.name); });
-
-// A scratch tree below the system's temporary folder, removed afterwards.
-class ScratchTree : public ::testing::Test {
-protected:
-    void SetUp() override
-    {
-        m_root = fs::temp_directory_path()
-                 / ("tallix_keyscan_" + std::to_string(::testing::UnitTest::GetInstance()->random_seed())
-                    + "_" + std::to_string(reinterpret_cast<std::uintptr_t>(this)));
-        fs::create_directories(m_root);
-    }
-    void TearDown() override
-    {
-        std::error_code ec;
-        fs::remove_all(m_root, ec);
-    }
-    void Write(const std::string& rel, const std::string& text)
-    {
-        const fs::path p = m_root / rel;
-        fs::create_directories(p.parent_path());
-        std::ofstream(p, std::ios::binary) << text;
-    }
-    fs::path m_root;
-};
-
-TEST_F(ScratchTree, ScanSkipsTestsHiddenAndBuildFolders)
-{
-    Write("shell/Page.cpp", "GetLangString(L\"A\", 0);");
-    Write("sf/qt/Ctrl.h", "GetLangString(L\"B\", 0);");
-    Write("notes.txt", "GetLangString(L\"TextFile\", 0);");
-    Write("tests/shell/PageTest.cpp", "GetLangString(L\"Test\", 0);");
-    Write(".git/x.h", "GetLangString(L\"Hidden\", 0);");
-    Write("build-x/gen/moc.cpp", "GetLangString(L\"Build\", 0);");
-    Write("out/CMakeCache.txt", "");
-    Write("out/gen/moc.cpp", "GetLangString(L\"Out\", 0);");
-    int files = 0;
-    const std::set<std::string> keys = CSourceKeyScanner::ScanTree(m_root.string(), files);
-    EXPECT_EQ(keys, (std::set<std::string>{"A", "B"}));
-    EXPECT_EQ(files, 2);
-}
-
-TEST(SourceKeyScan, ReadsTheSourceTree)
-{
-    int files = 0;
-    CSourceKeyScanner::ScanTree(TALLIX_SOURCE_DIR, files);
-    EXPECT_GT(files, 0) << "no *.cpp or *.h found below " << TALLIX_SOURCE_DIR;
-}
-
-// --- each dictionary on its own ---
-
-class Dictionary : public ::testing::TestWithParam<const char*> {
-protected:
-    Dictionary() : m_dict(kDataDir + GetParam()) {}
-    CDictionaryFile m_dict;
-};
-
-TEST_P(Dictionary, LoadsWithEveryChildAFullEntry)
-{
-    ASSERT_TRUE(m_dict.Parsed()) << m_dict.Error();
-    EXPECT_TRUE(m_dict.Faults().empty()) << ::testing::PrintToString(m_dict.Faults());
-    EXPECT_FALSE(m_dict.Entries().empty());
-}
-
-TEST_P(Dictionary, HasNoDuplicateKeys)
-{
-    std::set<std::string> seen;
-    for (const auto& e : m_dict.Entries())
-        EXPECT_TRUE(seen.insert(e.first).second) << "duplicate key \"" << e.first << "\"";
-}
-
-TEST_P(Dictionary, TextsAreUtf8AndFitTheLookupBuffer)
-{
-    for (const auto& e : m_dict.Entries()) {
-        EXPECT_GE(Utf8Length(e.first), 0) << "key is no UTF-8: " << e.first;
-        const long n = Utf8Length(e.second);
-        EXPECT_GE(n, 0) << "text of \"" << e.first << "\" is no UTF-8";
-        EXPECT_LT(n, 1024) << "text of \"" << e.first << "\" is too long";
-        EXPECT_FALSE(e.second.empty()) << "text of \"" << e.first << "\" is empty";
-    }
-}
-
-TEST_P(Dictionary, AnswersEveryKeyTheSourcesAskFor)
-{
-    int files = 0;
-    const std::set<std::string> asked = CSourceKeyScanner::ScanTree(TALLIX_SOURCE_DIR, files);
-    const std::set<std::string> have = KeysOf(m_dict);
-    for (const std::string& key : asked)
-        EXPECT_TRUE(have.count(key)) << "missing key \"" << key << "\"";
-}
-
-TEST_P(Dictionary, AnswersEveryKeyThePagesAskFor)
-{
-    const std::set<std::string> have = KeysOf(m_dict);
+    const Texts texts = Load(GetParam());
+    for (const std::string& key : KeysInSources())
+        EXPECT_TRUE(texts.count(key)) << "missing key \"" << key << "\"";
     for (const char* key : kPageKeys)
-        EXPECT_TRUE(have.count(key)) << "missing key \"" << key << "\"";
-}
-
-TEST_P(Dictionary, KeepsNamesThatAreNotTranslated)
-{
-    const std::map<std::string, std::string> texts = AsMap(m_dict);
-    for (const std::string& key : kUntranslated) {
-        if (key == "WebSite")
-            continue;
-        const auto it = texts.find(key);
-        ASSERT_NE(it, texts.end()) << key;
-        EXPECT_EQ(it->second, key);
-    }
+        EXPECT_TRUE(texts.count(key)) << "missing key \"" << key << "\"";
 }
 
 INSTANTIATE_TEST_SUITE_P(Files, Dictionary, ::testing::Values("Lang_en.xml", "Lang_cn.xml"),
@@ -235,38 +142,18 @@ INSTANTIATE_TEST_SUITE_P(Files, Dictionary, ::testing::Values("Lang_en.xml", "La
                              return std::string(info.param).substr(5, 2);
                          });
 
-// --- the two dictionaries together ---
-
-TEST(Dictionaries, ShareOneKeySet)
+TEST(Dictionaries, ShareOneKeySetAndTranslateTheLabels)
 {
-    const CDictionaryFile en(kDataDir + "Lang_en.xml");
-    const CDictionaryFile cn(kDataDir + "Lang_cn.xml");
-    const std::set<std::string> enKeys = KeysOf(en);
-    const std::set<std::string> cnKeys = KeysOf(cn);
-    for (const std::string& key : enKeys)
-        EXPECT_TRUE(cnKeys.count(key)) << "only in English: \"" << key << "\"";
-    for (const std::string& key : cnKeys)
-        EXPECT_TRUE(enKeys.count(key)) << "only in Chinese: \"" << key << "\"";
-}
-
-TEST(Dictionaries, EnglishLabelsReadAsTheirKeys)
-{
-    const CDictionaryFile en(kDataDir + "Lang_en.xml");
-    for (const auto& e : en.Entries()) {
-        if (kOwnTexts.count(e.first)) {
-            EXPECT_NE(e.second, e.first) << "\"" << e.first << "\" needs a text of its own";
-        } else {
-            EXPECT_EQ(e.second, e.first);
-        }
+    const Texts en = Load("Lang_en.xml");
+    const Texts cn = Load("Lang_cn.xml");
+    for (const auto& [key, text] : en) {
+        EXPECT_TRUE(cn.count(key)) << "only in English: \"" << key << "\"";
+        EXPECT_EQ(text == key, !kOwnTexts.count(key)) << "English text of \"" << key << "\"";
     }
-}
-
-TEST(Dictionaries, ChineseLabelsAreTranslated)
-{
-    const CDictionaryFile cn(kDataDir + "Lang_cn.xml");
-    for (const auto& e : cn.Entries()) {
-        if (!kUntranslated.count(e.first)) {
-            EXPECT_NE(e.second, e.first) << "\"" << e.first << "\" is still English";
+    for (const auto& [key, text] : cn) {
+        EXPECT_TRUE(en.count(key)) << "only in Chinese: \"" << key << "\"";
+        if (key != "WebSite") {
+            EXPECT_EQ(text == key, kUntranslated.count(key) == 1) << "Chinese text of \"" << key << "\"";
         }
     }
 }
@@ -275,13 +162,9 @@ TEST(LanguageChoice, SelectsEnglish)
 {
     TiXmlDocument doc;
     ASSERT_TRUE(doc.LoadFile((kDataDir + "Language.xml").c_str())) << doc.ErrorDesc();
-    const TiXmlElement* root = doc.RootElement();
-    ASSERT_NE(root, nullptr);
-    const TiXmlElement* first = root->FirstChildElement();
+    const TiXmlElement* first = doc.RootElement() ? doc.RootElement()->FirstChildElement() : nullptr;
     ASSERT_NE(first, nullptr);
-    const char* value = first->Attribute("value");
-    ASSERT_NE(value, nullptr);
-    EXPECT_STREQ(value, "0");
+    EXPECT_STREQ(first->Attribute("value"), "0");
 }
 
 }  // namespace

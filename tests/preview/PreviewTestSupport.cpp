@@ -1,14 +1,13 @@
 #include "PreviewTestSupport.h"
 
 #include "LangString.h"
+#include "PlaybackStage.h"
 #include "SFApplication.h"
 #include "ScenePreview.h"
 #include "VexplayTrace.h"
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QFile>
-#include <QTest>
 #include <QTimer>
 #include <chrono>
 #include <cstdio>
@@ -56,29 +55,9 @@ std::wstring PreviewTest::Wide(const std::string& text)
 
 ShortClipDir::ShortClipDir()
 {
+    const QString clip = QString::fromStdString(PlaybackStage::ShortClip());
     for (const char* name : { "/1low.kvf", "/1medium.kvf", "/1high.kvf" })
-        QFile::copy(QString::fromStdString(ShortClip()), m_dir.path() + QString::fromLatin1(name));
-}
-
-std::string ShortClipDir::ShortClip()
-{
-    return TALLIX_SOURCE_DIR "/tests/vexplay/data/short.kvf";
-}
-
-PlayWindow::PlayWindow()
-    : m_top(std::make_unique<QWidget>())
-{
-    m_top->resize(340, 260);
-    m_video = new QWidget(m_top.get());
-    m_video->setGeometry(10, 10, 320, 240);
-    m_video->winId();
-    m_top->show();
-    (void)QTest::qWaitForWindowExposed(m_top.get());
-}
-
-void* PlayWindow::Handle() const
-{
-    return reinterpret_cast<void*>(m_video->winId());
+        QFile::copy(clip, m_dir.path() + QString::fromLatin1(name));
 }
 
 int RunPreview(int scene, const std::function<void(QWidget* dialog)>& inside)
@@ -102,19 +81,6 @@ int RunPreview(int scene, const std::function<void(QWidget* dialog)>& inside)
     const int result = ShowScenePreview(scene, nullptr);
     EXPECT_FALSE(forced) << "the dialog had to be closed by force";
     return result;
-}
-
-bool WaitFor(const std::function<bool()>& done, int timeoutMs)
-{
-    return QTest::qWaitFor(done, timeoutMs);
-}
-
-void Idle(int ms)
-{
-    QElapsedTimer timer;
-    timer.start();
-    while (timer.elapsed() < ms)
-        QTest::qWait(10);
 }
 
 int SuccessfulPlays()

@@ -1,18 +1,19 @@
 #pragma once
 // What the preview tests share: the skin, dictionary and application
-// directory, a window to play into, and a modal run of the preview.
+// directory, and a modal run of the preview. Windows to play into are
+// PlaybackStage's.
 
 #include <QString>
 #include <condition_variable>
 #include <mutex>
 #include <thread>
 #include <QTemporaryDir>
-#include <QWidget>
 #include <functional>
 #include <gtest/gtest.h>
-#include <memory>
 #include <string>
 #include <vector>
+
+class QWidget;
 
 // Sequences the manager sends the library.
 extern const std::vector<std::string> kClearOps;
@@ -39,31 +40,15 @@ class ShortClipDir {
 public:
     ShortClipDir();
     QString Path() const { return m_dir.path(); }
-    static std::string ShortClip();
 
 private:
     QTemporaryDir m_dir;
-};
-
-// A shown window with a native child to play into.
-class PlayWindow {
-public:
-    PlayWindow();
-    void* Handle() const;
-
-private:
-    std::unique_ptr<QWidget> m_top;
-    QWidget* m_video = nullptr;
 };
 
 // Runs ShowScenePreview(scene, null); inside gets the open dialog and must
 // close it. A dialog still open after 20 s is closed, and fails the test.
 int RunPreview(int scene, const std::function<void(QWidget* dialog)>& inside);
 
-// Waits for done while the event loop runs; false when time is up.
-bool WaitFor(const std::function<bool()>& done, int timeoutMs = 5000);
-// Lets the event loop run for ms.
-void Idle(int ms);
 // Number of successful vexplay_Play calls so far.
 int SuccessfulPlays();
 

@@ -1,5 +1,6 @@
 // The preview dialog run modally the way the channel page runs it.
 
+#include "PlaybackStage.h"
 #include "PreviewTestSupport.h"
 #include "SFQTVideoWindow.h"
 #include "VexplayTrace.h"
@@ -56,26 +57,16 @@ void ExpectNoVideo(QWidget* dialog)
 class ScenePreview : public PreviewTest {
 };
 
-struct SceneCase {
-    int scene;
-    const char* title;
-    const char* clip;
-};
-
-class ScenePreviewScenes : public ScenePreview, public testing::WithParamInterface<SceneCase> {
-};
-
-TEST_P(ScenePreviewScenes, PlaysTheScenesClipUntilTheCloseButton)
+TEST_F(ScenePreview, PlaysTheScenesClipUntilTheCloseButton)
 {
-    const SceneCase c = GetParam();
     std::size_t beforeClose = 0;
-    const int result = RunPreview(c.scene, [&](QWidget* dialog) {
-        EXPECT_EQ(dialog->windowTitle(), QString::fromLatin1(c.title));
-        ASSERT_TRUE(WaitFor([dialog] { return Playing(dialog); })) << "no frame shown";
+    const int result = RunPreview(2, [&](QWidget* dialog) {
+        EXPECT_EQ(dialog->windowTitle(), QStringLiteral("Scene 2"));
+        ASSERT_TRUE(PlaybackStage::WaitFor([dialog] { return Playing(dialog); }, 5000)) << "no frame shown";
         const std::vector<VexCall> calls = VexTrace::Calls();
         EXPECT_EQ(VexTrace::Ops(), Join({ { "GetPort" }, kClearOps, { "OpenFile" }, kPlayOps }));
         ASSERT_EQ(calls.size(), 9u);
-        EXPECT_EQ(calls[5].arg, std::string(TALLIX_APP_DIR) + c.clip);
+        EXPECT_EQ(calls[5].arg, TALLIX_APP_DIR "/1medium.kvf");
         EXPECT_EQ(QWidget::find(reinterpret_cast<WId>(calls[8].pointer)), VideoWindowOf(dialog));
         EXPECT_TRUE(calls[8].ok && calls[8].guiThread);
         beforeClose = calls.size();
@@ -84,9 +75,6 @@ TEST_P(ScenePreviewScenes, PlaysTheScenesClipUntilTheCloseButton)
     EXPECT_EQ(result, 2);
     EXPECT_EQ(VexTrace::Ops(beforeClose), Join({ kClearOps, { "CloseFile" } }));
 }
-
-INSTANTIATE_TEST_SUITE_P(Scenes, ScenePreviewScenes,
-                         testing::Values(SceneCase{ 2, "Scene 2", "/1medium.kvf" }));
 
 class ScenePreviewOutside : public ScenePreview, public testing::WithParamInterface<int> {
 };
@@ -109,7 +97,7 @@ TEST_F(ScenePreview, MissingClipLeavesNoVideoAndAWorkingCloseButton)
     QTemporaryDir empty;
     SetAppDir(empty.path());
     const int result = RunPreview(2, [](QWidget* dialog) {
-        Idle(400);
+        PlaybackStage::WaitFor([] { return false; }, 400);
         ExpectNoVideo(dialog);
         EXPECT_EQ(VexTrace::Ops(),
                   Join({ { "GetPort" }, kClearOps, { "OpenFile" }, kClearOps, kPlayOps, kClearOps }));
@@ -125,13 +113,14 @@ TEST_F(ScenePreview, EscapeStopsALoopingClipAndCallsNothingAfter)
     ShortClipDir clips;
     SetAppDir(clips.Path());
     const int result = RunPreview(1, [](QWidget* dialog) {
-        ASSERT_TRUE(WaitFor([] { return SuccessfulPlays() >= 3; })) << "the clip did not loop";
+        ASSERT_TRUE(PlaybackStage::WaitFor([] { return SuccessfulPlays() >= 3; }, 5000))
+            << "the clip did not loop";
         QTest::keyClick(dialog, Qt::Key_Escape);
     });
     EXPECT_EQ(result, 2);
     const std::size_t closed = VexTrace::Count();
     EXPECT_EQ(VexTrace::Calls().back().op, "CloseFile");
-    Idle(400);
+    PlaybackStage::WaitFor([] { return false; }, 400);
     EXPECT_EQ(VexTrace::Count(), closed) << "the library was called after the dialog closed";
 }
 

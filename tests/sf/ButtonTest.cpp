@@ -1,17 +1,114 @@
 // The image button: its states under real mouse and focus events, what it
-// reports and its picture.
+// reports and its picture; the image toggle: release inside flips and
+// reports, outside does nothing, SetCheck is silent.
 
-#include "ButtonsTestSupport.h"
+#include "SfTestSupport.h"
 
+#include "ISFButtonEvent.h"
+#include "ISFRadioBoxEvent.h"
 #include "SFFactory.h"
 #include "SFQTButton.h"
+#include "SFQTRadioBox.h"
+#include "SFView.h"
 
+#include <QColor>
+#include <QCursor>
+#include <QImage>
 #include <QLineEdit>
 #include <QTest>
 #include <gtest/gtest.h>
+#include <string>
 #include <vector>
 
 namespace {
+
+class CButtonLogger : public ISFButtonEvent {
+public:
+    explicit CButtonLogger(Log& log) : m_log(log) {}
+    void BTN_OnLButtonDown(int id, unsigned int, tagPOINT) override { Add("down", id); }
+    void BTN_OnLButtonUp(int id, unsigned int, tagPOINT) override { Add("up", id); }
+    void BTN_OnMouseMove(int id, unsigned int, tagPOINT) override { Add("move", id); }
+    void BTN_OnMouseLeave(int id, unsigned int, long) override { Add("leave", id); }
+    void BTN_OnClicked(int id) override { Add("click", id); }
+
+private:
+    void Add(const char* what, int id) { m_log.push_back(what + (":" + std::to_string(id))); }
+    Log& m_log;
+};
+
+class CRadioLogger : public ISFRadioBoxEvent {
+public:
+    explicit CRadioLogger(Log& log) : m_log(log) {}
+    void RADIO_OnClicked(int checked, int id, tagPOINT pt, void* sender) override
+    {
+        m_log.push_back("radio:" + std::to_string(id) + "=" + std::to_string(checked));
+        lastPoint = pt;
+        lastSender = sender;
+    }
+    tagPOINT lastPoint{ -1, -1 };
+    void* lastSender = nullptr;
+
+private:
+    Log& m_log;
+};
+
+// Moves the cursor far away, so that the next move in is a real enter.
+void ParkCursor()
+{
+    QCursor::setPos(QPoint(5000, 5000));
+    QCoreApplication::processEvents();
+}
+
+// A white top window holding a view whose handler maps command 7 to "view:7".
+class CButtonHost {
+public:
+    explicit CButtonHost(Log& log, QSize size = QSize(400, 200)) : m_viewHandler(log)
+    {
+        m_top.resize(size);
+        m_top.setAutoFillBackground(true);
+        QPalette palette = m_top.palette();
+        palette.setColor(QPalette::Window, Qt::white);
+        m_top.setPalette(palette);
+        m_view = SFCreateView(&m_viewHandler);
+        m_view->Create(L"", L"", SF_WS_VISIBLE, tagRECT{ 0, 0, size.width(), size.height() }, &m_top, 3);
+        m_view->SetBGClr(0x00FFFFFFu);
+        log.clear();
+    }
+    ~CButtonHost() { SFDestroyControl(m_view); }
+    // The parent to give to Create.
+    void* Page() const { return m_view->GetUIWnd(); }
+    QWidget& Top() { return m_top; }
+    // Shows the window and waits until it can take input.
+    bool Show()
+    {
+        ParkCursor();
+        m_top.move(100, 100);
+        m_top.show();
+        return QTest::qWaitForWindowActive(&m_top);
+    }
+
+private:
+    CLoggingViewHandler m_viewHandler;
+    QWidget m_top;
+    CSFView* m_view = nullptr;
+};
+
+// A picture of one colour, written into the test skin directory.
+void WriteSolidPicture(const CTestSkin& skin, const char* name, QSize size, const QColor& color)
+{
+    QImage image(size, QImage::Format_ARGB32);
+    image.fill(color);
+    image.save(skin.Dir() + QLatin1Char('/') + QString::fromLatin1(name), "PNG");
+}
+
+// The host's pixels where the widget stands.
+QImage GrabOnHost(QWidget* widget)
+{
+    QWidget* top = widget->window();
+    const QRect where(widget->mapTo(top, QPoint(0, 0)), widget->size());
+    return top->grab(where).toImage().convertToFormat(QImage::Format_RGB32);
+}
+
 
 const tagRECT kRect{ 20, 20, 120, 50 }; // 100 by 30
 
@@ -131,6 +228,68 @@ TEST_F(ButtonPaint, PictureFollowsStateAndEnabling)
     m_button->EnableWindow(0);
     EXPECT_FALSE(m_button->IsEnabled());
     EXPECT_EQ(PixelAt(50, 15), QColor(Qt::yellow));
+}
+
+const tagRECT kRadioRect{ 20, 20, 170, 50 }; // 150 by 30
+
+class RadioEvents : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        m_radio = static_cast<CSFQTRadioBox*>(SFCreateRadioBox(&m_handler));
+        m_radio->Create(L"Disk Requirement", SF_WS_VISIBLE, kRadioRect, m_host.Page(), 7);
+        ParkCursor();
+        ASSERT_TRUE(m_host.Show());
+    }
+    void TearDown() override { SFDestroyControl(m_radio); }
+
+    Log m_log;
+    CButtonHost m_host{ m_log };
+    CRadioLogger m_handler{ m_log };
+    CSFQTRadioBox* m_radio = nullptr;
+};
+
+TEST_F(RadioEvents, ReleaseInsideFlipsAndReportsOnBothRoads)
+{
+    const QPoint at(30, 12);
+    QTest::mousePress(m_radio, Qt::LeftButton, {}, at);
+    EXPECT_EQ(m_radio->State(), 2);
+    QTest::mouseRelease(m_radio, Qt::LeftButton, {}, at);
+    EXPECT_EQ(m_radio->State(), 0);
+    EXPECT_EQ(m_radio->GetCheck(), 1);
+    EXPECT_TRUE(m_radio->isChecked());
+    EXPECT_EQ(m_log, (Log{ "radio:7=1", "view:7" }));
+    EXPECT_EQ(m_handler.lastPoint.x, 30);
+    EXPECT_EQ(m_handler.lastPoint.y, 12);
+    EXPECT_EQ(m_handler.lastSender, static_cast<void*>(static_cast<CSFRadioBox*>(m_radio)));
+
+    // A second click unchecks: it is a toggle, not a radio group.
+    QTest::mouseClick(m_radio, Qt::LeftButton, {}, at);
+    EXPECT_EQ(m_radio->GetCheck(), 0);
+    EXPECT_FALSE(m_radio->isChecked());
+    EXPECT_EQ(m_log, (Log{ "radio:7=1", "view:7", "radio:7=0", "view:7" }));
+}
+
+TEST_F(RadioEvents, ReleaseOutsideKeepsTheCheckAndSaysNothing)
+{
+    m_radio->SetCheck(1);
+    QTest::mousePress(m_radio, Qt::LeftButton, {}, QPoint(10, 10));
+    QTest::mouseRelease(m_radio, Qt::LeftButton, {}, QPoint(200, 10));
+    EXPECT_EQ(m_radio->GetCheck(), 1);
+    EXPECT_EQ(m_radio->State(), 0);
+    EXPECT_TRUE(m_log.empty()) << m_log.front();
+}
+
+TEST_F(RadioEvents, SetCheckIsSilentAndResetsTheState)
+{
+    QTest::mousePress(m_radio, Qt::LeftButton);
+    m_radio->SetCheck(5);
+    EXPECT_EQ(m_radio->GetCheck(), 1);
+    EXPECT_EQ(m_radio->State(), 0);
+    m_radio->SetCheck(0);
+    EXPECT_EQ(m_radio->GetCheck(), 0);
+    EXPECT_TRUE(m_log.empty());
+    QTest::mouseRelease(m_radio, Qt::LeftButton, {}, QPoint(-3, 5));
 }
 
 } // namespace

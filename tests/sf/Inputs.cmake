@@ -1,5 +1,4 @@
 tallix_add_test(sf_inputs_tests
-  SOURCES SfTestSupport.cpp InputsTestSupport.cpp InputsEditTest.cpp InputsComboTest.cpp
-          InputsStaticTest.cpp InputsSpinnerTest.cpp
+  SOURCES SfTestSupport.cpp InputsTest.cpp
   LIBS sf Qt6::Test
   QT)

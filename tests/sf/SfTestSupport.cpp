@@ -83,27 +83,3 @@ void CTestSkin::FillDialogStyle(DialogStyle& s)
     s.strClientRect = L"0,0,-1,-1";
     s.strRoundCorner = L"0,0";
 }
-
-CProgramSkin::CProgramSkin() : m_old(g_strSkinPath)
-{
-    SFSetSkinPath(TALLIX_APP_DIR L"/Bin/Skin/");
-}
-
-CProgramSkin::~CProgramSkin()
-{
-    g_strSkinPath = m_old;
-}
-
-ImageComboBoxStyle RowComboStyle()
-{
-    ImageComboBoxStyle s;
-    s.strImage = L"comobobox_nor.png";
-    s.strNormal = L"0,0,130,25";
-    s.strHover = L"0,0,130,25";
-    s.strPressedDown = L"0,78,130,26";
-    s.strPressedUp = L"0,26,130,26";
-    s.strDisabled = L"0,26,130,25";
-    s.strSlice6 = L"0,0,130,25";
-    s.strSlice7 = L"0,26,130,25";
-    return s;
-}

@@ -5,7 +5,6 @@
 #include "ISFButtonEvent.h"
 #include "ISFDialogEvent.h"
 #include "ISFViewEvent.h"
-#include "ImageComboBoxStyle.h"
 #include "SFButton.h"
 #include "SFEventDispatch.h"
 #include "SFQtConvert.h"
@@ -154,17 +153,3 @@ private:
     QTemporaryDir m_dir;
     QString m_oldSkinPath;
 };
-
-// Points the skin path at the program's generated skin for the life of the
-// object.
-class CProgramSkin {
-public:
-    CProgramSkin();
-    ~CProgramSkin();
-
-private:
-    QString m_old;
-};
-
-// The combo record of a channel table row, as the channel page fills it.
-ImageComboBoxStyle RowComboStyle();

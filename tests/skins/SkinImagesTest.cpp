@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <QColor>
-#include <QFile>
 #include <QImage>
 #include <QImageReader>
 #include <QString>
@@ -28,42 +27,6 @@ QImage Load(const std::string& name)
 {
     return QImage(QString::fromStdString(kSkinDir + name));
 }
-
-// Every image the program names, spelled as it spells them.
-const std::vector<std::string> kAllImages = {
-    "FrameMain.png", "bgColorMain.png", "bg_toolbar.png", "Frame.png", "background.png", "BottomBg(2).png",
-    "Tallix_LOGO.png", "AboutPic.png",
-    "about-normal.png", "about-hover.png", "about-pressed.png", "about-disabled.png",
-    "min-normal.png", "min-hover.png", "min-pressed.png", "min-disabled.png",
-    "close-normal.png", "close-hover.png", "close-pressed.png", "close-disabled.png",
-    "add_nor.png", "add_hove.png", "add_press.png", "add_dis.png",
-    "delect_nor.png", "delect_press.png", "delect_dis.png",
-    "list_clear_nor.png", "list_clear_hover.png", "list_clear_dis.png",
-    "btn_normal.png", "btn_hover.png", "btn_press.png", "btn_disabled.png", "btn_diabled.png",
-    "calculator_nor.png", "calculator_hover.png", "calculator_push.png", "calculator_dis.png",
-    "comobobox_nor.png", "comobobox_hover.png", "ComboBox.png", "ComboBox_GBTB.png", "ComboBox _150.png",
-    "ComboBox_150.png", "selectbox_nor.png", "bg_time_noal.png",
-    "radioBox_checked.png", "radioBox_normal.png", "list_open_nor.png", "list_close_nor.png", "c_check.png",
-    "NoVideo.png",
-    "btn_videoclose.png", "btn_videoclosedown.png", "btn_videosnap.png", "btn_videosnapdown.png",
-    "btn_propertynor.png", "btn_propertydown.png", "btn_dragcheck.png", "btn_draguncheck.png",
-};
-
-class SkinImage : public testing::TestWithParam<std::string> {};
-
-TEST_P(SkinImage, IsAValidPngUnderItsExactName)
-{
-    const QString path = QString::fromStdString(kSkinDir + GetParam());
-    ASSERT_TRUE(QFile::exists(path)) << GetParam();
-    QImageReader reader(path);
-    EXPECT_EQ(reader.format(), QByteArray("png"));
-    const QImage image = reader.read();
-    ASSERT_FALSE(image.isNull()) << reader.errorString().toStdString();
-    EXPECT_GT(image.width(), 0);
-    EXPECT_GT(image.height(), 0);
-}
-
-INSTANTIATE_TEST_SUITE_P(All, SkinImage, testing::ValuesIn(kAllImages));
 
 // Buttons, picture controls and views stretch their image over themselves,
 // so each of these images is drawn at the size of its control.
@@ -237,9 +200,10 @@ TEST(RecordPlanCombo, OpenCutsShowAnEvenField)
     }
 }
 
-// Every image name written in the program's sources has a file: a page that
-// asks for a picture that is not there shows an empty control.
-TEST(SkinNames, EveryNameInTheSourcesHasAFile)
+// Every image name written in the program's sources is a PNG under that
+// exact name: a page that asks for a picture that is not there shows an empty
+// control.
+TEST(SkinNames, EveryNameInTheSourcesIsAValidPng)
 {
     const std::regex literal(R"re("([^"\n%*]*\.png)")re");
     std::set<std::string> named;
@@ -265,8 +229,12 @@ TEST(SkinNames, EveryNameInTheSourcesHasAFile)
             }
         }
     }
-    for (const std::string& name : named)
-        EXPECT_TRUE(fs::exists(kSkinDir + name)) << name << " is named in the sources but not drawn";
+    EXPECT_GT(named.size(), 40u);
+    for (const std::string& name : named) {
+        QImageReader reader(QString::fromStdString(kSkinDir + name));
+        EXPECT_EQ(reader.format(), QByteArray("png")) << name << " is named in the sources but not drawn";
+        EXPECT_FALSE(reader.read().isNull()) << name;
+    }
 }
 
 } // namespace

@@ -1,114 +1,205 @@
+// The estimation library: a row's rate, the span and mean of a stream's rate,
+// and the resolution tables.
 #include "BitrateEstimate.h"
+#include "BitrateRange.h"
+#include "ResolutionTable.h"
 
+#include <climits>
 #include <gtest/gtest.h>
-
-#include <cstdio>
-#include <string>
-#include <tuple>
 
 namespace {
 
-// Written out again here so that a wrong entry in the library's tables shows.
-double ExpectedReference(int resolution, int area)
-{
-    if (resolution == 2 || resolution == 3)
-        return area == 1 ? 512 : 1024;
-    const double kbps[] = {0, 512, 0, 0, 2048, 2048, 4096, 4096, 4096, 6144, 6144, 8192, 12288};
-    return resolution >= 0 && resolution <= 12 ? kbps[resolution] : 0;
-}
-
-double ExpectedFactor(int compression, int environment)
-{
-    const double smart264 = environment == 1 ? 0.25 : environment == 2 ? 0.5 : 1;
-    switch (compression) {
-    case 1: return 1;
-    case 2: return 0.5;
-    case 3: return smart264;
-    case 4: return smart264 / 2;
-    }
-    return 0;
-}
-
-double Expected(int compression, int environment, int resolution, int frameRate, bool audio,
-                int area)
-{
-    if (compression == 0 || resolution == 0 || frameRate == 0)
-        return 0.0;
-    double value = ExpectedReference(resolution, area) * frameRate / 30.0;
-    value *= ExpectedFactor(compression, environment);
-    return audio ? value + 60.0 : value;
-}
-
-std::string Shown(double value)
-{
-    char buffer[256] = {};
-    std::snprintf(buffer, sizeof(buffer), "%.0f", value);
-    return buffer;
-}
-
-// The nine combo entries, then custom rates: none, odd, and beyond the list.
-const int kFrameRates[] = {1, 5, 10, 15, 20, 25, 30, 45, 60, 0, 7, 120, 999999999};
-const int kAreas[] = {0, 1, 2, -1};
-
-class EstimateGrid : public ::testing::TestWithParam<std::tuple<int, int>> {};
-
-TEST_P(EstimateGrid, MatchesRuleForEveryResolutionRateAudioAndArea)
-{
-    const int compression = std::get<0>(GetParam());
-    const int environment = std::get<1>(GetParam());
-    for (int resolution = 0; resolution < 13; ++resolution) {
-        for (int frameRate : kFrameRates) {
-            for (bool audio : {false, true}) {
-                for (int area : kAreas) {
-                    SCOPED_TRACE(testing::Message() << "resolution " << resolution << " rate "
-                                                    << frameRate << " audio " << audio
-                                                    << " area " << area);
-                    const double want =
-                        Expected(compression, environment, resolution, frameRate, audio, area);
-                    EXPECT_EQ(want, EstimateRowBitrate(compression, environment, resolution,
-                                                       frameRate, audio, area));
-                }
-            }
-        }
-    }
-}
-
-INSTANTIATE_TEST_SUITE_P(AllCombos, EstimateGrid,
-                         ::testing::Combine(::testing::Range(0, 5), ::testing::Range(0, 4)));
-
-struct Worked {
+struct Estimate {
     int compression;
     int environment;
     int resolution;
     int frameRate;
     bool audio;
     int area;
-    const char* shown;
+    double kbps;
 };
 
-class EstimateWorked : public ::testing::TestWithParam<Worked> {};
+class EstimateRows : public ::testing::TestWithParam<Estimate> {};
 
-TEST_P(EstimateWorked, ShowsExpectedText)
+TEST_P(EstimateRows, FollowTheRule)
 {
-    const Worked& w = GetParam();
-    EXPECT_EQ(w.shown, Shown(EstimateRowBitrate(w.compression, w.environment, w.resolution,
-                                                w.frameRate, w.audio, w.area)));
+    const Estimate& e = GetParam();
+    EXPECT_DOUBLE_EQ(e.kbps, EstimateRowBitrate(e.compression, e.environment, e.resolution, e.frameRate,
+                                                e.audio, e.area));
+}
+
+// Every resolution at H.264, 30 fps, no audio.
+INSTANTIATE_TEST_SUITE_P(
+    Resolutions, EstimateRows,
+    ::testing::Values(Estimate{1, 0, 0, 30, false, 0, 0}, Estimate{1, 0, 1, 30, false, 0, 512},
+                      Estimate{1, 0, 2, 30, false, 0, 1024}, Estimate{1, 0, 3, 30, false, 0, 1024},
+                      Estimate{1, 0, 4, 30, false, 0, 2048}, Estimate{1, 0, 5, 30, false, 0, 2048},
+                      Estimate{1, 0, 6, 30, false, 0, 4096}, Estimate{1, 0, 7, 30, false, 0, 4096},
+                      Estimate{1, 0, 8, 30, false, 0, 4096}, Estimate{1, 0, 9, 30, false, 0, 6144},
+                      Estimate{1, 0, 10, 30, false, 0, 6144}, Estimate{1, 0, 11, 30, false, 0, 8192},
+                      Estimate{1, 0, 12, 30, false, 0, 12288},
+                      // Area 1 halves only the two small references.
+                      Estimate{1, 0, 2, 30, false, 1, 512}, Estimate{1, 0, 3, 30, false, 1, 512},
+                      Estimate{1, 0, 6, 30, false, 1, 4096}, Estimate{1, 0, 3, 30, false, 2, 1024},
+                      Estimate{1, 0, 3, 30, false, -1, 1024}));
+
+// The codec and scene factors at 4 MP, 30 fps; only smart codecs heed the scene.
+INSTANTIATE_TEST_SUITE_P(
+    Factors, EstimateRows,
+    ::testing::Values(Estimate{0, 1, 6, 30, true, 0, 0}, Estimate{1, 2, 6, 30, false, 0, 4096},
+                      Estimate{2, 0, 6, 30, false, 0, 2048}, Estimate{2, 1, 6, 30, false, 0, 2048},
+                      Estimate{3, 0, 6, 30, false, 0, 4096}, Estimate{3, 1, 6, 30, false, 0, 1024},
+                      Estimate{3, 2, 6, 30, false, 0, 2048}, Estimate{3, 3, 6, 30, false, 0, 4096},
+                      Estimate{4, 0, 6, 30, false, 0, 2048}, Estimate{4, 1, 6, 30, false, 0, 512},
+                      Estimate{4, 2, 6, 30, false, 0, 1024}, Estimate{4, 3, 6, 30, false, 0, 2048}));
+
+// Rates in proportion to 30, custom ones included; audio adds 60 to a rate.
+INSTANTIATE_TEST_SUITE_P(
+    Rates, EstimateRows,
+    ::testing::Values(Estimate{1, 0, 6, 0, true, 0, 0}, Estimate{1, 0, 6, 15, false, 0, 2048},
+                      Estimate{1, 0, 6, 60, false, 0, 8192}, Estimate{1, 0, 6, 7, false, 0, 4096 * 7 / 30.0},
+                      Estimate{1, 0, 6, 999999999, false, 0, 4096.0 * 999999999 / 30},
+                      Estimate{1, 0, 6, 30, true, 0, 4156}, Estimate{2, 0, 3, 15, true, 0, 316},
+                      Estimate{4, 1, 6, 25, true, 0, 4096 * 25 / 30.0 / 8 + 60}));
+
+// Stray indexes read past no table: an unknown scene counts as none chosen.
+INSTANTIATE_TEST_SUITE_P(
+    Stray, EstimateRows,
+    ::testing::Values(Estimate{-1, 0, 6, 30, true, 0, 0}, Estimate{1, 0, -3, 30, true, 0, 0},
+                      Estimate{1, 0, 13, 30, true, 0, 0}, Estimate{3, 9, 6, 30, false, 0, 4096},
+                      Estimate{4, -2, 6, 30, false, 0, 2048}));
+
+struct RangeCase {
+    int resolutionIndex;
+    int frameRateIndex;
+    int codec;
+    int codecFlag;
+    int fullFrameRate;
+    unsigned min;
+    unsigned max;
+    int estimate;
+};
+
+class BitrateRange : public ::testing::TestWithParam<RangeCase> {};
+
+TEST_P(BitrateRange, GivesSpanAndMean)
+{
+    const RangeCase& c = GetParam();
+    unsigned min = 777;
+    unsigned max = 777;
+    GetBitrateRange(c.resolutionIndex, c.frameRateIndex, &min, &max, c.codec, c.codecFlag,
+                    c.fullFrameRate);
+    EXPECT_EQ(c.min, min);
+    EXPECT_EQ(c.max, max);
+
+    min = 777;
+    max = 777;
+    EXPECT_EQ(c.estimate, GetBitrateEstimate(c.resolutionIndex, c.frameRateIndex, c.codec,
+                                             c.codecFlag, &min, &max, c.fullFrameRate));
+    EXPECT_EQ(c.min, min);
+    EXPECT_EQ(c.max, max);
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Examples, EstimateWorked,
-    ::testing::Values(Worked{1, 2, 3, 15, false, 0, "512"}, Worked{2, 0, 3, 15, true, 0, "316"},
-                      Worked{1, 0, 3, 15, false, 1, "256"}, Worked{4, 1, 6, 25, true, 0, "487"},
-                      Worked{3, 0, 6, 25, false, 0, "3413"}, Worked{0, 1, 6, 30, true, 0, "0"},
-                      Worked{2, 0, 2, 30, false, 2, "512"}));
+    Cases, BitrateRange,
+    ::testing::Values(
+        // 1920x1080 at 30 of a full 50.
+        RangeCase{5, 7, 0, 0, 0, 4459, 25527, 14993},
+        RangeCase{5, 7, 1, 1, 0, 5350, 30632, 17991},
+        // Only codec 1 with the flag takes the smaller divisor.
+        RangeCase{5, 7, 1, 0, 0, 4459, 25527, 14993},
+        RangeCase{5, 7, 2, 1, 0, 4459, 25527, 14993},
+        // Full rates outside 1..149 fall back to 50.
+        RangeCase{5, 7, 0, 0, 150, 4459, 25527, 14993},
+        RangeCase{5, 7, 0, 0, 149, 4336, 24872, 14604},
+        // Truncation before the pixel product: 453.6 becomes 453.
+        RangeCase{1, 1, 0, 0, 25, 36408, 208322, 122365},
+        RangeCase{2, 4, 1, 5, 30, 25022, 142987, 84004},
+        RangeCase{12, 21, 0, 0, 50, 1, 10, 5},
+        // Nothing chosen, or outside the tables.
+        RangeCase{0, 7, 0, 0, 0, 0, 0, 0},
+        RangeCase{13, 7, 0, 0, 0, 0, 0, 0},
+        RangeCase{5, -1, 0, 0, 0, 0, 0, 0},
+        RangeCase{5, INT_MAX, 0, 0, 0, 0, 0, 0}));
 
-TEST(EstimateRowBitrate, StrayIndexesDoNotReadPastTables)
+struct RoundCase {
+    int value;
+    int step;
+    int result;
+};
+
+class RoundToStepCases : public ::testing::TestWithParam<RoundCase> {};
+
+TEST_P(RoundToStepCases, Rounds)
 {
-    EXPECT_EQ(0.0, EstimateRowBitrate(-1, 0, 6, 30, true, 0));
-    EXPECT_EQ(0.0, EstimateRowBitrate(1, 0, -3, 30, true, 0));
-    // An unknown scene counts as none chosen.
-    EXPECT_EQ(4096.0, EstimateRowBitrate(3, 9, 6, 30, false, 0));
-    EXPECT_EQ(2048.0, EstimateRowBitrate(4, -2, 6, 30, false, 0));
+    EXPECT_EQ(GetParam().result, RoundToStep(GetParam().value, GetParam().step));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Cases, RoundToStepCases,
+    ::testing::Values(RoundCase{17, 10, 20}, RoundCase{14, 10, 10}, RoundCase{15, 10, 20},
+                      RoundCase{20, 10, 20}, RoundCase{7, 0, 7},
+                      // Step 1 always adds one: remainder 0 is not below 0.
+                      RoundCase{5, 1, 6}, RoundCase{15, 3, 15},
+                      // Negative remainders always take the lower branch.
+                      RoundCase{-17, 10, -10}, RoundCase{-20, 10, -20}, RoundCase{17, -10, 0},
+                      // Ends of the range wrap instead of trapping.
+                      RoundCase{INT_MIN, -1, INT_MAX}, RoundCase{INT_MAX, 10, INT_MIN + 2}));
+
+struct SizeCase {
+    int index;
+    int bNtsc;
+    int width;
+    int height;
+};
+
+class IndexToSize : public ::testing::TestWithParam<SizeCase> {};
+
+TEST_P(IndexToSize, GivesSizeOrLeavesOutputs)
+{
+    const SizeCase& c = GetParam();
+    int width = -7;
+    int height = -9;
+    ResolutionIndexToSize(c.index, &width, &height, c.bNtsc);
+    EXPECT_EQ(c.width, width);
+    EXPECT_EQ(c.height, height);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Cases, IndexToSize,
+    ::testing::Values(SizeCase{21, 1, 3744, 1408},
+                      // The twelve-row list, largest first.
+                      SizeCase{0, 0, 3296, 2472}, SizeCase{4, 0, 1920, 1080},
+                      SizeCase{11, 0, 176, 144},
+                      // Outside: untouched.
+                      SizeCase{33, 1, -7, -9}, SizeCase{-1, 1, -7, -9}, SizeCase{12, 0, -7, -9}));
+
+class SizeToIndex : public ::testing::TestWithParam<SizeCase> {};
+
+TEST_P(SizeToIndex, FindsFirstRow)
+{
+    const SizeCase& c = GetParam();
+    EXPECT_EQ(c.index, SizeToResolutionIndex(c.width, c.height, c.bNtsc));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Cases, SizeToIndex,
+    ::testing::Values(SizeCase{0, 0, 704, 576}, SizeCase{3, 0, 352, 288},
+                      SizeCase{28, 0, 960, 576}, SizeCase{32, 0, 160, 90},
+                      // Not the twelve-row list: its first row is row 26 here.
+                      SizeCase{26, 0, 3296, 2472}, SizeCase{18, 0, 1920, 1080},
+                      // Unknown, or only in the other norm: 0 like row 0.
+                      SizeCase{0, 0, 704, 480}, SizeCase{0, 1, 3072, 2048},
+                      SizeCase{0, 0, 480, 704}));
+
+TEST(SizeToIndex, InvertsTheNtscTable)
+{
+    for (int i = 0; i < kResolutionRowCount; ++i) {
+        int width = 0;
+        int height = 0;
+        ResolutionIndexToSize(i, &width, &height, 1);
+        EXPECT_EQ(i, SizeToResolutionIndex(width, height, 1)) << width << "x" << height;
+    }
 }
 
 }  // namespace

@@ -89,9 +89,9 @@ private:
 class EditorFixture : public testing::Test {
 protected:
     CProgramEnvironment env;
-    CPageOnView page{ kPageWidth };
+    CMainWindowUnderTest main;
 
-    CTallixEventImp* Page() const { return page.Page(); }
+    CTallixEventImp* Page() const { return main.Page(); }
     QWidget* PageList() const { return dynamic_cast<QWidget*>(Page()->m_pList); }
 };
 
@@ -205,7 +205,7 @@ TEST_F(EditorFixture, ToggleShowsTheSubRowsMovesTheButtonsAndResizesTheList)
     CEditorHost editor(Page(), false);
     editor.Choose(Editor::IdCompression, 0, 1);
     editor.Choose(Editor::IdResolution, 0, 3);
-    const int w = page.Window()->width();
+    const int w = PageList()->parentWidget()->width();
 
     editor.Click(Editor::IdToggle);
     EXPECT_TRUE(editor->IsSubStreamsShown());

@@ -6,15 +6,14 @@
 #include "MainDlgEventImp.h"
 #include "MainWindowBringUp.h"
 #include "SFApplication.h"
-#include "SFControlTypes.h"
 #include "SFDialog.h"
 #include "SFFactory.h"
 #include "SFRadioBox.h"
 #include "SFStatic.h"
-#include "SFView.h"
 #include "TallixEventImp.h"
 #include "VexUISetting.h"
 
+#include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
@@ -25,6 +24,7 @@
 #include <QTimer>
 #include <QWindow>
 #include <gtest/gtest.h>
+#include <string>
 
 namespace {
 
@@ -295,30 +295,18 @@ CMainWindowUnderTest::~CMainWindowUnderTest()
 }
 
 QWidget* CMainWindowUnderTest::Window() const { return dynamic_cast<QWidget*>(m_dlg); }
+QWidget* CMainWindowUnderTest::Find(const char* name) const
+{
+    QWidget* window = Window();
+    return window ? window->findChild<QWidget*>(QString::fromLatin1(name)) : nullptr;
+}
+
+QAbstractButton* CMainWindowUnderTest::Button(unsigned int id) const
+{
+    return qobject_cast<QAbstractButton*>(Find(("button_" + std::to_string(id)).c_str()));
+}
+
 CTallixEventImp* CMainWindowUnderTest::Page() const
 {
     return m_event ? m_event->m_pPageEvent : nullptr;
 }
-
-CPageOnView::CPageOnView(int width, int height)
-{
-    m_page = new CTallixEventImp(nullptr);
-    m_view = SFCreateView(m_page);
-    m_view->Create(L"", L"", SF_WS_VISIBLE, tagRECT{ 0, 0, width - 1, height - 1 }, nullptr, 0);
-    if (QWidget* w = Window()) {
-        w->show();
-        w->activateWindow();
-        if (!QTest::qWaitForWindowExposed(w))
-            ADD_FAILURE() << "the page view was not exposed";
-    }
-    m_driver = std::make_unique<CPageDriver>(m_page);
-}
-
-CPageOnView::~CPageOnView()
-{
-    m_driver.reset();
-    SFDestroyControl(m_view);
-    delete m_page;
-}
-
-QWidget* CPageOnView::Window() const { return dynamic_cast<QWidget*>(m_view); }

@@ -13,8 +13,8 @@
 class CCalculatorBottom;
 class CMainDlgEventImp;
 class CSFDialog;
-class CSFView;
 class CTallixEventImp;
+class QAbstractButton;
 class QComboBox;
 class QDialog;
 class QTimer;
@@ -120,29 +120,22 @@ public:
     CMainWindowUnderTest& operator=(const CMainWindowUnderTest&) = delete;
 
     QWidget* Window() const;
+    CSFDialog* Dlg() const { return m_dlg; }
+    CMainDlgEventImp* Event() const { return m_event; }
     CTallixEventImp* Page() const;
     CPageDriver& Driver() { return *m_driver; }
+    // A control of the window by its object name, such as "button_2003".
+    QWidget* Find(const char* name) const;
+    QAbstractButton* Button(unsigned int id) const;
+    // For a test that tore the window down by itself.
+    void Forget()
+    {
+        m_event = nullptr;
+        m_dlg = nullptr;
+    }
 
 private:
     CMainDlgEventImp* m_event = nullptr;
     CSFDialog* m_dlg = nullptr;
-    std::unique_ptr<CPageDriver> m_driver;
-};
-
-// The page alone on a shown view of the given size: the host it measures.
-class CPageOnView {
-public:
-    explicit CPageOnView(int width, int height = 690);
-    ~CPageOnView();
-    CPageOnView(const CPageOnView&) = delete;
-    CPageOnView& operator=(const CPageOnView&) = delete;
-
-    QWidget* Window() const;
-    CTallixEventImp* Page() const { return m_page; }
-    CPageDriver& Driver() { return *m_driver; }
-
-private:
-    CTallixEventImp* m_page = nullptr;
-    CSFView* m_view = nullptr;
     std::unique_ptr<CPageDriver> m_driver;
 };
