@@ -61,8 +61,10 @@ bool CConfigXMLPersistImp::ReadBool(const wchar_t* section, const wchar_t* name,
                                     DWORD /*spare*/)
 {
     TiXmlElement* element = FindElement(section, name);
+    // TinyXML asserts on an empty text instead of refusing it.
+    const char* text = element ? element->Attribute("value") : nullptr;
     bool value = def;
-    if (element && element->QueryBoolAttribute("value", &value) != TIXML_SUCCESS)
+    if (text && *text && element->QueryBoolAttribute("value", &value) != TIXML_SUCCESS)
         value = def;
     return value;
 }

@@ -2,6 +2,8 @@
 
 extern "C" {
 #include <libavutil/frame.h>
+#include <libavutil/macros.h>
+#include <libavutil/mem.h>
 #include <libavutil/pixfmt.h>
 #include <libswscale/swscale.h>
 }
@@ -51,12 +53,21 @@ QImage FrameScaler::Convert(const AVFrame* frame, double sampleAspect, QSize are
         m_setup = setup;
     }
 
-    // RGB32 is the byte order QImage::Format_RGB32 uses on this machine.
-    QImage image(size, QImage::Format_RGB32);
-    if (image.isNull())
+    // swscale's SIMD code writes whole blocks, past the end of a row and of
+    // the picture: rows are padded to 64 bytes and one spare row follows.
+    const int stride = FFALIGN(size.width() * 4, 64);
+    auto* buffer = static_cast<uint8_t*>(av_malloc(static_cast<size_t>(stride) * (size.height() + 1)));
+    if (!buffer)
         return {};
-    uint8_t* planes[4] = {image.bits(), nullptr, nullptr, nullptr};
-    int strides[4] = {static_cast<int>(image.bytesPerLine()), 0, 0, 0};
+    // RGB32 is the byte order QImage::Format_RGB32 uses on this machine.
+    QImage image(buffer, size.width(), size.height(), stride, QImage::Format_RGB32,
+        [](void* data) { av_free(data); }, buffer);
+    if (image.isNull()) {
+        av_free(buffer);
+        return {};
+    }
+    uint8_t* planes[4] = {buffer, nullptr, nullptr, nullptr};
+    int strides[4] = {stride, 0, 0, 0};
     if (sws_scale(m_context, frame->data, frame->linesize, 0, frame->height, planes, strides) <= 0)
         return {};
     return image;

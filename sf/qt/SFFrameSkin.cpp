@@ -4,24 +4,45 @@
 
 #include <QPainter>
 #include <QPainterPath>
+#include <algorithm>
+#include <climits>
 
 namespace {
 
+// Positions are 64-bit: a skin's piece may be far larger than the window,
+// and sums of such sizes overflow an int.
+typedef qint64 Pos;
+
 // A piece with a zero or negative size would make QPainter take the whole image.
-void DrawPiece(QPainter& painter, const QPixmap& frame, int x, int y, const QRect& piece)
+void DrawPiece(QPainter& painter, const QPixmap& frame, Pos x, Pos y, const QRect& piece)
 {
-    if (CSFFrameSkin::IsValidRect(piece))
-        painter.drawPixmap(QPoint(x, y), frame, piece);
+    if (!CSFFrameSkin::IsValidRect(piece))
+        return;
+    // Wholly outside the target, it would not show.
+    const QPaintDevice* target = painter.device();
+    if (x >= target->width() || y >= target->height() || x + piece.width() <= 0
+        || y + piece.height() <= 0)
+        return;
+    painter.drawPixmap(QPoint(static_cast<int>(x), static_cast<int>(y)), frame, piece);
 }
 
-int PieceWidth(const QRect& r)
+Pos PieceWidth(const QRect& r)
 {
     return CSFFrameSkin::IsValidRect(r) ? r.width() : 0;
 }
 
-int PieceHeight(const QRect& r)
+Pos PieceHeight(const QRect& r)
 {
     return CSFFrameSkin::IsValidRect(r) ? r.height() : 0;
+}
+
+// Moves a rectangle sideways; an edge pushed past the int range stays at its end.
+void Shift(QRect& r, Pos dx)
+{
+    const auto clamped = [](Pos v) {
+        return static_cast<int>(std::clamp<Pos>(v, INT_MIN, INT_MAX));
+    };
+    r.setCoords(clamped(r.left() + dx), r.top(), clamped(r.right() + dx), r.bottom());
 }
 
 } // namespace
@@ -147,33 +168,33 @@ QPixmap CSFFrameSkin::Compose(int W, int H, bool allowShortcut) const
     const QRect& rb = m_pieces[RightBottom];
     const QRect& right = m_pieces[Right];
     const QRect& rt = m_pieces[RightTop];
-    const int T = PieceHeight(tl);
-    const int B = PieceHeight(bl);
+    const Pos T = PieceHeight(tl);
+    const Pos B = PieceHeight(bl);
 
     DrawPiece(p, frame, 0, 0, tl);
     if (PieceWidth(top) > 0) {
-        for (int x = PieceWidth(tl); x < W - PieceWidth(tr); x += PieceWidth(top))
+        for (Pos x = PieceWidth(tl); x < W - PieceWidth(tr); x += PieceWidth(top))
             DrawPiece(p, frame, x, 0, top);
     }
     DrawPiece(p, frame, W - PieceWidth(tr), 0, tr);
 
     DrawPiece(p, frame, 0, T, lt);
     if (PieceHeight(left) > 0) {
-        for (int y = T + PieceHeight(lt); y < H - PieceHeight(lb) - B; y += PieceHeight(left))
+        for (Pos y = T + PieceHeight(lt); y < H - PieceHeight(lb) - B; y += PieceHeight(left))
             DrawPiece(p, frame, 0, y, left);
     }
     DrawPiece(p, frame, 0, H - PieceHeight(lb) - B, lb);
 
     DrawPiece(p, frame, W - PieceWidth(rt), T, rt);
     if (PieceHeight(right) > 0) {
-        for (int y = T + PieceHeight(rt); y < H - PieceHeight(rb) - B; y += PieceHeight(right))
+        for (Pos y = T + PieceHeight(rt); y < H - PieceHeight(rb) - B; y += PieceHeight(right))
             DrawPiece(p, frame, W - PieceWidth(right), y, right);
     }
     DrawPiece(p, frame, W - PieceWidth(rb), H - PieceHeight(rb) - B, rb);
 
     DrawPiece(p, frame, 0, H - PieceHeight(bl), bl);
     if (PieceWidth(bottom) > 0) {
-        for (int x = PieceWidth(bl); x < W - PieceWidth(br); x += PieceWidth(bottom))
+        for (Pos x = PieceWidth(bl); x < W - PieceWidth(br); x += PieceWidth(bottom))
             DrawPiece(p, frame, x, H - PieceHeight(bottom), bottom);
     }
     DrawPiece(p, frame, W - PieceWidth(br), H - PieceHeight(br), br);
@@ -187,10 +208,7 @@ void CSFFrameSkin::AdjustForResize(int oldWidth, int newWidth)
     for (QRect& hit : m_buttonHit) {
         if (!IsValidRect(hit))
             continue;
-        if (hit.left() >= 0)
-            hit.translate(delta, 0);
-        else
-            hit.translate(newWidth, 0);
+        Shift(hit, hit.left() >= 0 ? delta : newWidth);
     }
 }
 
