@@ -18,19 +18,6 @@
 
 namespace {
 
-QString Word(const wchar_t* key)
-{
-    return QString::fromWCharArray(GetLangString(key, 0));
-}
-
-QString LabelText(CSFStatic* label)
-{
-    wchar_t buffer[512] = {};
-    if (label)
-        label->GetStaticText(buffer, 512);
-    return QString::fromWCharArray(buffer);
-}
-
 template <class Control>
 QWidget* W(Control* control)
 {
@@ -47,8 +34,8 @@ QString EditText(CSFEditCtrl* edit)
 QString DaysAnswer(double days)
 {
     const long long whole = static_cast<long long>(days);
-    return QString::asprintf("%lld  ", whole) + Word(L"Day") +
-           QString::asprintf(" %0.2f ", (days - whole) * 24) + Word(L"Hour");
+    return QString::asprintf("%lld  ", whole) + CSessionUser::Word(L"Day") +
+           QString::asprintf(" %0.2f ", (days - whole) * 24) + CSessionUser::Word(L"Hour");
 }
 
 // Binary GB that a day of recording takes at kbps.
@@ -66,7 +53,7 @@ CSessionCalculator::CSessionCalculator(CSessionUser& user, CCalculatorBottom* pa
 
 QString CSessionCalculator::Value() const
 {
-    return LabelText(m_panel->m_pStaticResultValue);
+    return CSessionUser::LabelText(m_panel->m_pStaticResultValue);
 }
 
 void CSessionCalculator::SwitchTo(CSFRadioBox* radio, int mode, const char* name)
@@ -85,7 +72,7 @@ void CSessionCalculator::Choose(CSFComboBox* combo, int index, const QString& wh
 void CSessionCalculator::CheckAnswer(const QString& caption, const QString& value,
                                      const QString& what)
 {
-    m_user.CheckText(LabelText(m_panel->m_pStaticResultCaption), caption,
+    m_user.CheckText(CSessionUser::LabelText(m_panel->m_pStaticResultCaption), caption,
                      what + QStringLiteral(" caption"));
     m_user.CheckText(Value(), value, what);
 }
@@ -109,7 +96,7 @@ void CSessionCalculator::DiskRequirement(double total)
         gb /= 1024;
         ++unit;
     }
-    CheckAnswer(Word(L"Request Capacity:"), QString::asprintf("%.2f%s", gb, units[unit]),
+    CheckAnswer(CSessionUser::Word(L"Request Capacity:"), QString::asprintf("%.2f%s", gb, units[unit]),
                 QStringLiteral("disk requirement for 32 days"));
 }
 
@@ -118,7 +105,7 @@ void CSessionCalculator::RecordingDays(double total)
     SwitchTo(m_panel->m_pRadioRecordingDay, CCalculatorBottom::MODE_RECORDING_DAY, "Recording day");
     Choose(m_panel->m_pComboCapacity, 3, QStringLiteral("storage capacity"));  // "1TB"
     const double usable = g_UISetting.m_nRecordblePersentage * 953.67424 / 100;
-    CheckAnswer(Word(L"Recording Days:"), DaysAnswer(usable / GbPerDay(total)),
+    CheckAnswer(CSessionUser::Word(L"Recording Days:"), DaysAnswer(usable / GbPerDay(total)),
                 QStringLiteral("recording days on 1TB"));
 
     // A weekly plan: five working days of eight hours.
@@ -131,9 +118,9 @@ void CSessionCalculator::RecordingDays(double total)
         m_user.Type(edit, QString::fromLatin1(hours[day]), what);
     }
     const QRegularExpression weekly(QStringLiteral("^\\d+ %1 \\d+ %2 \\d+\\.\\d\\d %3$")
-                                        .arg(QRegularExpression::escape(Word(L"Week")),
-                                             QRegularExpression::escape(Word(L"Day")),
-                                             QRegularExpression::escape(Word(L"Hour"))));
+                                        .arg(QRegularExpression::escape(CSessionUser::Word(L"Week")),
+                                             QRegularExpression::escape(CSessionUser::Word(L"Day")),
+                                             QRegularExpression::escape(CSessionUser::Word(L"Hour"))));
     m_user.Check(weekly.match(Value()).hasMatch(),
                  QStringLiteral("weekly answer \"%1\"").arg(Value()));
     // Too many hours and a letter: both mended to a full day.
@@ -155,19 +142,19 @@ void CSessionCalculator::RecordingDays(double total)
 
     Choose(m_panel->m_pComboRecordPlan, 0, QStringLiteral("record plan"));
     const double usable2 = g_UISetting.m_nRecordblePersentage * (2 * 0.9313225 * 1024) / 100;
-    CheckAnswer(Word(L"Recording Days:"), DaysAnswer(usable2 / GbPerDay(total)),
+    CheckAnswer(CSessionUser::Word(L"Recording Days:"), DaysAnswer(usable2 / GbPerDay(total)),
                 QStringLiteral("recording days on 2 TB"));
 }
 
 void CSessionCalculator::RaidCapacity()
 {
     SwitchTo(m_panel->m_pRadioRaid, CCalculatorBottom::MODE_RAID, "RAID Calculator");
-    CheckAnswer(Word(L"Available Capacity:"), QStringLiteral("3.60TB"),
+    CheckAnswer(CSessionUser::Word(L"Available Capacity:"), QStringLiteral("3.60TB"),
                 QStringLiteral("RAID capacity on the defaults"));
     Choose(m_panel->m_pComboRaidLevel, 1, QStringLiteral("RAID level"));  // "RAID 5"
     Choose(m_panel->m_pComboRaidBays, 1, QStringLiteral("bays"));  // "16 bay"
     Choose(m_panel->m_pComboRaidDisk, 3, QStringLiteral("disk size"));  // "4 TB"
-    CheckAnswer(Word(L"Available Capacity:"), QStringLiteral("43.20TB"),
+    CheckAnswer(CSessionUser::Word(L"Available Capacity:"), QStringLiteral("43.20TB"),
                 QStringLiteral("KTR6, RAID 5, 16 bays of 4 TB"));
 
     // "MQS71" offers no 16 bays with RAID 5: the list starts at 24.
@@ -177,7 +164,7 @@ void CSessionCalculator::RaidCapacity()
                  QStringLiteral("bays of MQS71 with RAID 5"));
     Choose(m_panel->m_pComboRaidBays, 2, QStringLiteral("bays"));  // "48 bay"
     Choose(m_panel->m_pComboRaidDisk, 15, QStringLiteral("disk size"));  // "16 TB"
-    CheckAnswer(Word(L"Available Capacity:"), QStringLiteral("590.40TB"),
+    CheckAnswer(CSessionUser::Word(L"Available Capacity:"), QStringLiteral("590.40TB"),
                 QStringLiteral("MQS71, RAID 5, 48 bays of 16 TB"));
 }
 
@@ -198,19 +185,19 @@ void CSessionCalculator::RequestDevice(double total)
     long long devices = static_cast<long long>(ratio);
     if (static_cast<double>(devices) < ratio)
         ++devices;
-    const QString word = Word(devices > 1 ? L"Devices" : L"Device");
-    CheckAnswer(Word(L"Request Device:"), QString::number(devices) + QLatin1Char(' ') + word,
+    const QString word = CSessionUser::Word(devices > 1 ? L"Devices" : L"Device");
+    CheckAnswer(CSessionUser::Word(L"Request Device:"), QString::number(devices) + QLatin1Char(' ') + word,
                 QStringLiteral("devices for 30 days on MQS50, RAID 6, 48 bays of 2 TB"));
 }
 
 void CSessionCalculator::CheckEmptyTable()
 {
     // The panel stays on the last mode.
-    CheckAnswer(Word(L"Request Device:"),
-                QStringLiteral("0  ") + Word(L"Device"),
+    CheckAnswer(CSessionUser::Word(L"Request Device:"),
+                QStringLiteral("0  ") + CSessionUser::Word(L"Device"),
                 QStringLiteral("devices for an empty table"));
     SwitchTo(m_panel->m_pRadioDiskRequirement, CCalculatorBottom::MODE_DISK_REQUIREMENT,
              "Disk Requirement");
-    CheckAnswer(Word(L"Request Capacity:"), QStringLiteral("0.00GB"),
+    CheckAnswer(CSessionUser::Word(L"Request Capacity:"), QStringLiteral("0.00GB"),
                 QStringLiteral("disk requirement for an empty table"));
 }

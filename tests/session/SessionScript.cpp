@@ -20,19 +20,6 @@ Q_LOGGING_CATEGORY(lcSession, "tallix.session", QtWarningMsg)
 
 namespace {
 
-QString Word(const wchar_t* key)
-{
-    return QString::fromWCharArray(GetLangString(key, 0));
-}
-
-QString LabelText(CSFStatic* label)
-{
-    wchar_t buffer[512] = {};
-    if (label)
-        label->GetStaticText(buffer, 512);
-    return QString::fromWCharArray(buffer);
-}
-
 } // namespace
 
 CSessionScript::CSessionScript(CMainDlgEventImp* main, int rows, int previewMs)
@@ -52,10 +39,10 @@ void CSessionScript::Step(const char* name, F work)
     qCInfo(lcSession, "%-16s %7lld ms  %-6s | %s channels, %s | %s %s", name,
            static_cast<long long>(timer.elapsed()),
            m_user.Failures() > failuresBefore ? "FAILED" : "ok",
-           qUtf8Printable(LabelText(calc->m_pStaticChannelCount)),
-           qUtf8Printable(LabelText(calc->m_pStaticBitrate)),
-           qUtf8Printable(LabelText(calc->m_pStaticResultCaption)),
-           qUtf8Printable(LabelText(calc->m_pStaticResultValue)));
+           qUtf8Printable(CSessionUser::LabelText(calc->m_pStaticChannelCount)),
+           qUtf8Printable(CSessionUser::LabelText(calc->m_pStaticBitrate)),
+           qUtf8Printable(CSessionUser::LabelText(calc->m_pStaticResultCaption)),
+           qUtf8Printable(CSessionUser::LabelText(calc->m_pStaticResultValue)));
 }
 
 void CSessionScript::Run()
@@ -98,13 +85,13 @@ void CSessionScript::CheckEmptyWindow()
     QWidget* window = SFWidgetFromHandle(m_main->GetUIWnd());
     m_user.Check(window->isVisible() && window->size() == QSize(1100, 750),
                  QStringLiteral("the main window is not shown at 1100 by 750"));
-    m_user.CheckText(window->windowTitle(), Word(L"ProductName"), QStringLiteral("window title"));
+    m_user.CheckText(window->windowTitle(), CSessionUser::Word(L"ProductName"), QStringLiteral("window title"));
     CCalculatorBottom* calc = m_main->m_pPageEvent->m_pCalculator;
-    m_user.CheckText(LabelText(calc->m_pStaticChannelCount), QStringLiteral("0"),
+    m_user.CheckText(CSessionUser::LabelText(calc->m_pStaticChannelCount), QStringLiteral("0"),
                      QStringLiteral("channels at start"));
-    m_user.CheckText(LabelText(calc->m_pStaticBitrate), QStringLiteral("0.00 kbps"),
+    m_user.CheckText(CSessionUser::LabelText(calc->m_pStaticBitrate), QStringLiteral("0.00 kbps"),
                      QStringLiteral("total at start"));
-    m_user.CheckText(LabelText(calc->m_pStaticResultValue), QStringLiteral("0.00GB"),
+    m_user.CheckText(CSessionUser::LabelText(calc->m_pStaticResultValue), QStringLiteral("0.00GB"),
                      QStringLiteral("answer at start"));
 }
 
@@ -112,7 +99,7 @@ void CSessionScript::PreviewScene(int scene, QWidget* previewButton)
 {
     const QString what = QStringLiteral("preview of scene %1").arg(scene);
     m_user.ClickIntoModal(previewButton, [&](QDialog* dialog) {
-        m_user.CheckText(dialog->windowTitle(), Word(scene == 1 ? L"Scene 1"
+        m_user.CheckText(dialog->windowTitle(), CSessionUser::Word(scene == 1 ? L"Scene 1"
                                                      : scene == 2 ? L"Scene 2" : L"Scene 3"),
                          what + QStringLiteral(" title"));
         QWidget* surface = nullptr;

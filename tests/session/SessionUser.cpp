@@ -1,5 +1,8 @@
 #include "SessionUser.h"
 
+#include "LangString.h"
+#include "SFStatic.h"
+
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
@@ -154,4 +157,17 @@ void CSessionUser::ClickIntoModal(QWidget* button, const std::function<void(QDia
     Click(button);
     poll.stop();
     Check(seen, QStringLiteral("%1 did not open").arg(what));
+}
+
+QString CSessionUser::Word(const wchar_t* key)
+{
+    return QString::fromWCharArray(GetLangString(key, 0));
+}
+
+QString CSessionUser::LabelText(CSFStatic* label)
+{
+    wchar_t buffer[512] = {};
+    if (label)
+        label->GetStaticText(buffer, 512);
+    return QString::fromWCharArray(buffer);
 }

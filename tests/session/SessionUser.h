@@ -8,12 +8,17 @@
 #include <QString>
 #include <functional>
 
+class CSFStatic;
 class QComboBox;
 class QDialog;
 class QWidget;
 
 class CSessionUser {
 public:
+    // A word of the dictionary in use, and the text a label shows.
+    static QString Word(const wchar_t* key);
+    static QString LabelText(CSFStatic* label);
+
     // Waits are for conditions; this is how long any one may take. Under
     // valgrind everything is some fifty times slower.
     static constexpr int kPatienceMs = 120000;
