@@ -250,6 +250,12 @@ QBitmap CSFFrameSkin::RoundMask(const QSize& size, int rx, int ry)
     QBitmap mask(size);
     if (mask.isNull())
         return mask;
+    // Without corners the path covers every pixel: painting it antialiased
+    // into a bitmap would only cost a conversion of the whole window.
+    if (rx <= 0 && ry <= 0) {
+        mask.fill(Qt::color1);
+        return mask;
+    }
     mask.fill(Qt::color0);
     const qreal w = size.width();
     const qreal h = size.height();

@@ -5,6 +5,7 @@
 #include "SfTestSupport.h"
 
 #include "DialogStyle.h"
+#include "SFFrameSkin.h"
 #include "SFCustomEvent.h"
 #include "SFFactory.h"
 #include "SFKeyMap.h"
@@ -321,3 +322,19 @@ TEST_F(SkinnedWindow, CaptionButtonCountsNegativeXFromTheRightEdge)
 }
 
 } // namespace
+
+TEST(RoundMask, CornersAreCutOnlyWhenThereAreRadii)
+{
+    struct Case {
+        int rx, ry;
+        bool cornerSet;
+    };
+    for (const Case& c : { Case{ 0, 0, true }, Case{ 4, 5, false } }) {
+        const QImage mask = CSFFrameSkin::RoundMask(QSize(40, 30), c.rx, c.ry).toImage();
+        const QRgb set = mask.pixel(20, 15);
+        EXPECT_EQ(mask.pixel(0, 0) == set, c.cornerSet) << c.rx << "," << c.ry;
+        EXPECT_EQ(mask.pixel(39, 29) == set, c.cornerSet) << c.rx << "," << c.ry;
+        EXPECT_EQ(mask.pixel(20, 0), set) << "the edges between the corners stay";
+        EXPECT_EQ(mask.pixel(0, 15), set);
+    }
+}
