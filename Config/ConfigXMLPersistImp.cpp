@@ -99,5 +99,5 @@ void CConfigXMLPersistImp::ParseText(const char* text)
     // TinyXML recurses once per nesting level; refuse what would overflow the stack.
     if (CXmlFileLoader::NestingDepth(text, CXmlFileLoader::kMaxDepth) > CXmlFileLoader::kMaxDepth)
         return;
-    m_doc.Parse(text, nullptr, TIXML_ENCODING_UNKNOWN);
+    CXmlFileLoader::ParseWithSpare(m_doc, text, TIXML_ENCODING_UNKNOWN);
 }

@@ -102,8 +102,16 @@ bool CXmlFileLoader::Parse(TiXmlDocument& doc, const std::string& text)
         doc.Parse("");  // leaves the document empty with its error flag set
         return false;
     }
-    doc.Parse(text.c_str(), nullptr, TIXML_DEFAULT_ENCODING);
+    ParseWithSpare(doc, text, TIXML_DEFAULT_ENCODING);
     return !doc.Error();
+}
+
+void CXmlFileLoader::ParseWithSpare(TiXmlDocument& doc, const std::string& text, int encoding)
+{
+    // The longest UTF-8 character is four bytes.
+    std::string spared = text;
+    spared.append(4, '\0');
+    doc.Parse(spared.c_str(), nullptr, static_cast<TiXmlEncoding>(encoding));
 }
 
 bool CXmlFileLoader::Load(TiXmlDocument& doc, const std::string& path)

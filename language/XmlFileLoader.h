@@ -18,4 +18,9 @@ public:
     // Deepest element nesting of the text, counted leniently; returns as
     // soon as limit is passed.
     static int NestingDepth(const std::string& text, int limit);
+
+    // TinyXML's parse of the text with terminators to spare: it steps over a
+    // UTF-8 character by its lead byte's length, and a text cut inside one
+    // would otherwise send it past the end. encoding is a TiXmlEncoding.
+    static void ParseWithSpare(TiXmlDocument& doc, const std::string& text, int encoding);
 };
