@@ -89,34 +89,8 @@ const wchar_t* CScenePlayWinDlgEventImp::SceneClip(int scene)
 
 void CScenePlayWinDlgEventImp::GetStyle(DialogStyle& s)
 {
+    s = SFSmallDialogStyle();
     s.strFrameImage = L"background.png";
-    s.strBackgroundImage = L"background.png";
-    s.strBackgroundMode = L"tile";
-    s.strBackgroundColor = L"000000";
-    s.strTopLeft = L"0,0,10,27";
-    s.strTopLeftMode = L"tile";
-    s.strTop = L"30,0,1,27";
-    s.strTopMode = L"stretch";
-    s.strTopRight = L"138,0,10,27";
-    s.strLeftTop = L"0,27,1,80";
-    s.strLeft = L"0,110,1,20";
-    s.strLeftBottom = L"0,110,1,20";
-    s.strBottomLeft = L"0,130,10,10";
-    s.strBottom = L"10,130,1,10";
-    s.strBottomRight = L"138,130,10,10";
-    s.strRightBottom = L"147,110,1,20";
-    s.strRight = L"147,110,1,20";
-    s.strRightTop = L"147,27,1,80";
-    s.strTitleFont = L"Tahoma";
-    s.strTitleFontSize = L"11";
-    s.strTitleFontWeight = L"normal";
-    s.strTitleColor = L"333333";
-    s.strTitleColorInactive = L"999999";
-    s.strTitleAlign = L"left";
-    s.strTitleRect = L"10,0,1100,27";
-    s.nResizable = 1;
-    s.strClientRect = L"0,0,-1,-1";
-    s.strRoundCorner = L"0,0";
 }
 
 void CScenePlayWinDlgEventImp::SetDlg(CSFDialog* dlg)

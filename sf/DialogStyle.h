@@ -80,3 +80,7 @@ struct DialogStyle {
     std::wstring strBtn4ImageHover;
     std::wstring strBtn4ImagePressed;
 };
+
+// The skin the small dialogs share: "Frame.png" cut into a 27-pixel caption,
+// one-pixel sides and a 10-pixel bottom, with square corners.
+DialogStyle SFSmallDialogStyle();
