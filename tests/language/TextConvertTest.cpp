@@ -1,10 +1,7 @@
 #include <gtest/gtest.h>
-#include <climits>
 #include <string>
 
 #include "SFStreamConvert.h"
-#include "SFTextA.h"
-#include "SFTextW.h"
 #include "TextConvert.h"
 #include "WinTypes.h"
 
@@ -56,48 +53,6 @@ TEST(StreamConvertTest, InvalidUtf8BecomesReplacement)
 {
     CSFStreamConvert conv("a\xFF" "b", CP_UTF8);
     EXPECT_EQ(conv.GetWString(), L"a\uFFFDb");
-}
-
-TEST(TextHelperTest, WholeAndCountedTexts)
-{
-    CSFTextA whole(L"H.265", CP_UTF8);
-    EXPECT_STREQ(whole.Get(), "H.265");
-    EXPECT_EQ(whole.Length(), 6);  // the terminator is converted too
-
-    CSFTextA counted(L"H.265", 3, CP_UTF8);
-    EXPECT_EQ(counted.Length(), 3);
-    EXPECT_EQ(std::string(counted.Get(), 3), "H.2");
-
-    CSFTextW wide("\xE5\x9C\xBA\xE6\x99\xAF" "1", CP_UTF8);
-    EXPECT_STREQ(wide.Get(), L"\u573a\u666f1");
-    CSFTextW wideCounted("Scene", 2, CP_UTF8);
-    EXPECT_EQ(std::wstring(wideCounted.Get(), 2), L"Sc");
-
-    CSFTextA none(nullptr, CP_UTF8);
-    EXPECT_EQ(none.Get(), nullptr);
-    CSFTextA badCodePage(L"x", 12345u);
-    EXPECT_EQ(badCodePage.Get(), nullptr);
-}
-
-TEST(TextHelperTest, IntoBuffers)
-{
-    char narrow[8];
-    EXPECT_EQ(WideToNarrowInto(L"Day", narrow, 8, CP_UTF8), 4);
-    EXPECT_STREQ(narrow, "Day");
-    EXPECT_EQ(WideToNarrowInto(L"Recordable", narrow, 8, CP_UTF8), 0);
-    EXPECT_STREQ(narrow, "");
-
-    wchar_t wide[8];
-    EXPECT_EQ(NarrowToWideInto("Hour", wide, 8, CP_UTF8), 5);
-    EXPECT_STREQ(wide, L"Hour");
-
-    wchar_t number[12];
-    const struct { int value; const wchar_t* text; } ints[] = {
-        {0, L"0"}, {24, L"24"}, {-7, L"-7"}, {INT_MAX, L"2147483647"}, {INT_MIN, L"-2147483648"}};
-    for (const auto& c : ints) {
-        IntToWideInto(c.value, number);
-        EXPECT_STREQ(number, c.text);
-    }
 }
 
 struct DigitsCase {

@@ -50,10 +50,6 @@ public:
         if (onTextChange)
             onTextChange(text);
     }
-    void EDIT_OnEnterPressed(unsigned int id, wchar_t* text) override
-    {
-        events.push_back({ "enter", id, text ? text : L"", 0, nullptr });
-    }
     void SelectChanged(int id, int index, void* sender) override
     {
         events.push_back({ "select", static_cast<unsigned int>(id), L"", index, sender });
@@ -94,8 +90,8 @@ public:
     void* Handle() { return this; }
 };
 
-// --- the edit control: one commit per Return or focus loss, text change
-// events for code and user, and text truncation ---
+// --- the edit control: text change events for code and user, and text
+// truncation ---
 
 const tagRECT kEditRect{ 10, 10, 110, 35 };
 
@@ -103,15 +99,11 @@ struct EditFixture : testing::Test {
     CInputsHandler handler;
     CInputsHost host;
     CSFQTEditCtrl* edit = nullptr;
-    QLineEdit* other = nullptr;
 
     void SetUp() override
     {
         edit = static_cast<CSFQTEditCtrl*>(SFCreateEditCtrl(&handler));
         edit->Create(SF_WS_VISIBLE, kEditRect, host.Handle(), 0x811, false);
-        other = new QLineEdit(&host);
-        other->setGeometry(10, 60, 100, 25);
-        other->show();
     }
     void TearDown() override { SFDestroyControl(static_cast<CSFEditCtrl*>(edit)); }
 
@@ -123,78 +115,6 @@ struct EditFixture : testing::Test {
     }
 };
 
-enum class CommitWay { Return, Enter, Tab, ClickElsewhere, FocusElsewhere };
-
-struct CommitCase {
-    CommitWay way;
-    const char* name;
-};
-
-void PrintTo(const CommitCase& c, std::ostream* os)
-{
-    *os << c.name;
-}
-
-class EditCommit : public EditFixture, public testing::WithParamInterface<CommitCase> {};
-
-TEST_P(EditCommit, FiresExactlyOnceAndLeavesTheField)
-{
-    TypeIntoEdit(QStringLiteral("42"));
-    handler.events.clear();
-    switch (GetParam().way) {
-    case CommitWay::Return:
-        QTest::keyClick(edit, Qt::Key_Return);
-        break;
-    case CommitWay::Enter:
-        QTest::keyClick(edit, Qt::Key_Enter);
-        break;
-    case CommitWay::Tab:
-        QTest::keyClick(edit, Qt::Key_Tab);
-        break;
-    case CommitWay::ClickElsewhere:
-        QTest::mouseClick(other, Qt::LeftButton);
-        break;
-    case CommitWay::FocusElsewhere:
-        other->setFocus(Qt::MouseFocusReason);
-        break;
-    }
-    ASSERT_EQ(handler.Count("enter"), 1);
-    EXPECT_EQ(handler.events.back().text, L"42");
-    EXPECT_EQ(handler.events.back().id, 0x811u);
-    EXPECT_FALSE(edit->hasFocus());
-}
-
-INSTANTIATE_TEST_SUITE_P(Ways, EditCommit,
-                         testing::Values(CommitCase{ CommitWay::Return, "Return" },
-                                         CommitCase{ CommitWay::Tab, "Tab" },
-                                         CommitCase{ CommitWay::ClickElsewhere, "Click" }),
-                         [](const testing::TestParamInfo<CommitCase>& info) {
-                             return std::string(info.param.name);
-                         });
-
-TEST_F(EditFixture, AfterAReturnTheNextFocusLossStillCommits)
-{
-    TypeIntoEdit(QStringLiteral("7"));
-    QTest::keyClick(edit, Qt::Key_Return);
-    TypeIntoEdit(QStringLiteral("8"));
-    other->setFocus(Qt::TabFocusReason);
-    ASSERT_EQ(handler.Count("enter"), 2);
-    EXPECT_EQ(handler.events.back().text, L"78");
-}
-
-TEST_F(EditFixture, ReturnWithoutFocusCommitsOnceAndLeavesNoSkipBehind)
-{
-    // A Return delivered to an edit that has no focus raises a single
-    // editingFinished; the next commit must not be swallowed.
-    other->setFocus();
-    edit->setText(QStringLiteral("5"));
-    handler.events.clear();
-    QTest::keyClick(edit, Qt::Key_Return);
-    EXPECT_EQ(handler.Count("enter"), 1);
-    TypeIntoEdit(QStringLiteral("6"));
-    other->setFocus(Qt::TabFocusReason);
-    EXPECT_EQ(handler.Count("enter"), 2);
-}
 
 TEST_F(EditFixture, TextChangeFiresForCodeAndUserWithTheControlAsSender)
 {

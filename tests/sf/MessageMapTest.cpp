@@ -16,8 +16,7 @@ const SF_MSGMAP_ENTRY kTable[] = {
     { SF_MSG_COMMAND, 0, 10, 20, SF_SIG_VOID, 0, nullptr },                 // 0
     { SF_MSG_COMMAND, 0, 15, 30, SF_SIG_VOID, 0, nullptr },                 // 1 overlaps 0
     { SF_MSG_NOTIFY, 2, 10, 10, SF_SIG_NOTIFY, 0, nullptr },                // 2
-    { SF_MSG_UI, SF_MSG_UI, 0x40000000u, 0x4000FFFFu, SF_SIG_UIMSG, 0, nullptr }, // 3
-    { SF_MSG_COMMAND, 0, 0xFFFFFFF0u, 0xFFFFFFFFu, SF_SIG_VOID, 0, nullptr }, // 4
+    { SF_MSG_COMMAND, 0, 0xFFFFFFF0u, 0xFFFFFFFFu, SF_SIG_VOID, 0, nullptr }, // 3
     { 0, 0, 0, 0, SF_SIG_END, 0, nullptr },
     { SF_MSG_COMMAND, 0, 100, 100, SF_SIG_VOID, 0, nullptr },               // past the end
 };
@@ -50,15 +49,13 @@ INSTANTIATE_TEST_SUITE_P(
                     SearchCase{ SF_MSG_COMMAND, 0, 21, 1 }, SearchCase{ SF_MSG_COMMAND, 0, 31, -1 },
                     SearchCase{ SF_MSG_COMMAND, 1, 12, -1 }, // code must match
                     SearchCase{ SF_MSG_NOTIFY, 2, 10, 2 }, SearchCase{ SF_MSG_NOTIFY, 3, 10, -1 },
-                    SearchCase{ SF_MSG_UI, SF_MSG_UI, 0x40000005u, 3 },
-                    SearchCase{ SF_MSG_UI, SF_MSG_UI, 0x3FFFFFFFu, -1 },
-                    SearchCase{ SF_MSG_COMMAND, 0, 0xFFFFFFFFu, 4 },
+                    SearchCase{ SF_MSG_COMMAND, 0, 0xFFFFFFFFu, 3 },
                     SearchCase{ SF_MSG_COMMAND, 0, 100, -1 })); // after the end entry
 
 TEST(MapSearchEdges, EmptyAndNullTablesHoldNothing)
 {
     const SF_MSGMAP_ENTRY onlyEnd[] = { { 0, 0, 0, 0, SF_SIG_END, 0, nullptr } };
-    for (unsigned int message : { 0u, SF_MSG_NOTIFY, SF_MSG_COMMAND, SF_MSG_UI })
+    for (unsigned int message : { 0u, SF_MSG_NOTIFY, SF_MSG_COMMAND })
         EXPECT_EQ(SFFindMessageEntry(onlyEnd, message, 0, 0), nullptr);
     EXPECT_EQ(SFFindMessageEntry(static_cast<const SF_MSGMAP_ENTRY*>(nullptr), SF_MSG_COMMAND, 0, 1),
               nullptr);
@@ -87,10 +84,6 @@ public:
         if (result)
             *result = 42;
     }
-    void OnUi(unsigned int wParam, long id)
-    {
-        log.push_back(name + ":ui" + std::to_string(wParam) + "/" + std::to_string(id));
-    }
     void OnVoidNotify() { log.push_back(name + ":voidnotify"); }
 };
 
@@ -99,21 +92,7 @@ SF_BEGIN_MSGMAP(CMultiHandler)
     SF_ON_COMMAND_RANGE(10, 20, OnRange)
     SF_ON_NOTIFY(2, 7, OnRow)
     SF_MAP_ENTRY(SF_MSG_NOTIFY, 9, 7, 7, SF_SIG_VOID, OnVoidNotify)
-    SF_ON_UIMSG(5, OnUi)
-    SF_ON_UIMSG(1, OnUi)
-    SF_MAP_ENTRY(SF_MSG_UI, SF_MSG_UI, 8, 8, SF_SIG_VOID, OnApply)
-    SF_MAP_ENTRY(SF_MSG_COMMAND, 0, 4, 4, SF_SIG_UIMSG, OnUi)
-SF_END_MSGMAP()
-
-class CPlainHandler : public ISFDialogEvent {
-    SF_DECLARE_MSGMAP()
-public:
-    int Dlg_OnInitDialog(bool) override { return 1; }
-    void OnApply() {}
-};
-
-SF_BEGIN_MSGMAP(CPlainHandler)
-    SF_ON_COMMAND(3, OnApply)
+    SF_MAP_ENTRY(SF_MSG_COMMAND, 0, 4, 4, SF_SIG_NOTIFY, OnRow)
 SF_END_MSGMAP()
 
 TEST(MessageMapDispatch, MemberOfAHandlerWithSeveralBasesReadsItsOwnFields)
@@ -125,29 +104,16 @@ TEST(MessageMapDispatch, MemberOfAHandlerWithSeveralBasesReadsItsOwnFields)
     base->Dlg_OnCommand(3);
     base->Dlg_OnCommand(15);
     base->Dlg_OnCommand(21);   // not mapped
-    base->Dlg_OnCommand(4);    // mapped with signature 3: commands call signature 1 only
+    base->Dlg_OnCommand(4);    // mapped with the notify signature: commands call signature 1 only
     tagNMHDR hdr{ nullptr, 7, 99 };
     long result = 0;
     base->OnNotifyClick(0x10002, 7, &hdr, &result);   // only the low 16 bits of the code count
     base->OnNotifyClick(9, 7, &hdr, &result);
-    base->OnUIMessage(SF_MSG_UI, 5, 77, 5);
-    base->OnUIMessage(SF_MSG_UI, 8, 1, 8);  // signature 1: UI messages call signature 3 only
 
     const std::vector<std::string> expected = { "multi:apply", "multi:range", "multi:row99",
-                                                "multi:voidnotify", "multi:ui77/5" };
+                                                "multi:voidnotify" };
     EXPECT_EQ(h.log, expected);
     EXPECT_EQ(result, 42);
-}
-
-TEST(MessageIDs, OnlyUiEntriesGiveACachedTerminatedList)
-{
-    CPlainHandler plain;
-    EXPECT_EQ(plain.GetThisMessageIDs(), nullptr);
-    CMultiHandler h;
-    int* ids = h.GetThisMessageIDs();
-    ASSERT_NE(ids, nullptr);
-    EXPECT_EQ(std::vector<int>(ids, ids + 4), std::vector<int>({ 5, 1, 8, -1 }));
-    EXPECT_EQ(h.GetThisMessageIDs(), ids);
 }
 
 } // namespace

@@ -9,7 +9,6 @@
 SF_BEGIN_MSGMAP(CLoggingDialogHandler)
     SF_ON_COMMAND(1, OnMappedOk)
     SF_ON_COMMAND(7, OnMapped7)
-    SF_ON_UIMSG(5, OnUi)
 SF_END_MSGMAP()
 
 SF_BEGIN_MSGMAP(CLoggingViewHandler)

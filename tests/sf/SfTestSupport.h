@@ -57,7 +57,6 @@ class CLoggingDialogHandler : public ISFDialogEvent, public ISFButtonEvent {
     SF_DECLARE_MSGMAP()
 public:
     Log log;
-    int closeResult = 0;
     std::vector<std::pair<unsigned int, unsigned int>> keysDown;
     int sizeCalls = 0;
     // Runs on Dlg_OnInitDialog(false), where a dialog builds its controls.
@@ -74,7 +73,6 @@ public:
     void Dlg_OnOK() override { log.push_back("ok"); }
     void Dlg_OnCancel() override { log.push_back("cancel"); }
     void OnDlgSize(unsigned int, int&, int&) override { ++sizeCalls; }
-    int Dlg_Close() override { return closeResult; }
     void Dlg_Destroy() override
     {
         log.push_back(m_pUIWnd ? "destroy:window-set" : "destroy:window-cleared");
@@ -89,10 +87,6 @@ public:
 
     void OnMappedOk() { log.push_back("mapped:1"); }
     void OnMapped7() { log.push_back("mapped:7"); }
-    void OnUi(unsigned int wParam, long id)
-    {
-        log.push_back("ui:" + std::to_string(wParam) + "/" + std::to_string(id));
-    }
 };
 
 class CLoggingViewHandler : public ISFViewEvent {

@@ -1,5 +1,5 @@
-// The layout language of the video window: parsing, writing, the ready
-// layouts against the grid rule, and resizing into pixels.
+// The layout language of the video window: parsing, writing and resizing
+// into pixels.
 
 #include "QTVideoWindowLayout.h"
 #include "SFVideoWindow.h"
@@ -8,7 +8,6 @@
 #include <set>
 #include <string>
 #include <tuple>
-#include <vector>
 
 namespace {
 
@@ -53,121 +52,10 @@ TEST(VideoWindowLayout, ParsesAndFormatsTheSingleWindow)
     EXPECT_EQ(Formatted(layout), two);
 }
 
-TEST(VideoWindowLayout, NoReadyLayoutOutsideZeroToNine)
-{
-    EXPECT_EQ(CSFVideoWindow::GetDefaultLayout(static_cast<DEFAULT_LAYOUT>(10)), nullptr);
-    EXPECT_EQ(CSFVideoWindow::GetDefaultLayout(static_cast<DEFAULT_LAYOUT>(-1)), nullptr);
-}
-
-// A block of cells that forms one sub window: row, column, rows, columns.
-struct Block {
-    int row, col, rows, cols;
-    bool operator<(const Block& o) const
-    {
-        return std::tie(row, col, rows, cols) < std::tie(o.row, o.col, o.rows, o.cols);
-    }
-    bool operator==(const Block& o) const { return !(*this < o) && !(o < *this); }
-};
-
-struct Ready {
-    int value;
-    const char* head;
-    std::set<Block> joined;
-};
-
-class ReadyLayout : public testing::TestWithParam<Ready> {};
-
-// Every ready layout against the grid rule: all separators present at the
-// rule's places, flags 0 exactly inside a joined block, and rectangles that
-// tile the cells with the joined blocks of the table; then resized.
-TEST_P(ReadyLayout, FollowsTheGridRule)
-{
-    const Ready& ready = GetParam();
-    const char* text = CSFVideoWindow::GetDefaultLayout(static_cast<DEFAULT_LAYOUT>(ready.value));
-    ASSERT_NE(text, nullptr);
-    ASSERT_EQ(std::string(text).rfind(ready.head, 0), 0u) << text;
-
-    Layout layout;
-    ASSERT_EQ(layout.Parse(Text(text)), 1);
-    const int rows = layout.Rows();
-    const int cols = layout.Columns();
-    const int w = 400 / cols;
-    const int h = 300 / rows;
-
-    // Cell to sub window, from the rectangles.
-    std::vector<int> owner(static_cast<size_t>(rows * cols), -1);
-    std::set<Block> joined;
-    for (auto it = layout.Rects().cbegin(); it != layout.Rects().cend(); ++it) {
-        const Layout::Rect& r = it.value();
-        ASSERT_EQ(r.left % w, 0);
-        ASSERT_EQ(r.top % h, 0);
-        ASSERT_EQ(r.right % w, 0);
-        ASSERT_EQ(r.bottom % h, 0);
-        const Block b{ r.top / h, r.left / w, (r.bottom - r.top) / h, (r.right - r.left) / w };
-        if (b.rows * b.cols > 1)
-            joined.insert(b);
-        for (int y = b.row; y < b.row + b.rows; ++y) {
-            for (int x = b.col; x < b.col + b.cols; ++x) {
-                ASSERT_EQ(owner[static_cast<size_t>(y * cols + x)], -1) << "overlap";
-                owner[static_cast<size_t>(y * cols + x)] = it.key();
-            }
-        }
-    }
-    for (int o : owner)
-        EXPECT_GE(o, 0) << "uncovered cell";
-    EXPECT_EQ(layout.Rects().size(), layout.Count());
-    EXPECT_EQ(joined, ready.joined);
-
-    ASSERT_EQ(layout.Separators().size(), (rows - 1) * cols + rows * (cols - 1));
-    for (int i = 0; i + 1 < rows; ++i) {
-        for (int j = 0; j < cols; ++j) {
-            const int key = Layout::HorizontalKey(i, j);
-            ASSERT_TRUE(layout.Separators().contains(key)) << key;
-            const Layout::Separator& s = layout.Separators()[key];
-            EXPECT_EQ(std::make_tuple(s.left, s.top, s.right, s.bottom),
-                      std::make_tuple(j * w, (i + 1) * h - 5, (j + 1) * w, (i + 1) * h + 5))
-                << key;
-            const bool same = owner[static_cast<size_t>(i * cols + j)] ==
-                              owner[static_cast<size_t>((i + 1) * cols + j)];
-            EXPECT_EQ(s.nFlag, same ? 0 : 1) << key;
-        }
-    }
-    for (int r = 0; r < rows; ++r) {
-        for (int k = 0; k + 1 < cols; ++k) {
-            const int key = Layout::VerticalKey(r, k);
-            ASSERT_TRUE(layout.Separators().contains(key)) << key;
-            const Layout::Separator& s = layout.Separators()[key];
-            EXPECT_EQ(std::make_tuple(s.left, s.top, s.right, s.bottom),
-                      std::make_tuple((k + 1) * w - 5, r * h, (k + 1) * w + 5, (r + 1) * h))
-                << key;
-            const bool same = owner[static_cast<size_t>(r * cols + k)] ==
-                              owner[static_cast<size_t>(r * cols + k + 1)];
-            EXPECT_EQ(s.nFlag, same ? 0 : 1) << key;
-        }
-    }
-
-    // Resizing rebuilds the same shape: joined blocks come out as single windows.
-    ASSERT_EQ(layout.Resize(450, 430), 1);
-    EXPECT_EQ(layout.SubWindowCount(), layout.Count());
-    EXPECT_EQ(layout.Rects().size(), layout.Count());
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    All, ReadyLayout,
-    testing::Values(Ready{ 0, "1/1/1/400:300/", {} }, Ready{ 1, "2/2/4/400:300/", {} },
-                    Ready{ 2, "3/3/6/400:300/", { { 0, 0, 2, 2 } } },
-                    Ready{ 3, "4/4/8/400:300/", { { 0, 0, 3, 3 } } },
-                    Ready{ 4, "3/3/9/400:300/", {} },
-                    Ready{ 5, "4/4/13/400:300/", { { 1, 1, 2, 2 } } },
-                    Ready{ 6, "4/4/16/400:300/", {} },
-                    Ready{ 7, "6/6/20/400:300/", { { 0, 0, 3, 3 }, { 0, 3, 3, 3 } } },
-                    Ready{ 8, "5/5/25/400:300/", {} }, Ready{ 9, "6/6/36/400:300/", {} }),
-    [](const testing::TestParamInfo<Ready>& info) { return std::to_string(info.param.value); });
-
 TEST(VideoWindowLayout, LastColumnAndRowTakeTheRemainder)
 {
     Layout layout;
-    ASSERT_EQ(layout.Parse(Text(CSFVideoWindow::GetDefaultLayout(DEFAULT_LAYOUT_9))), 1);
+    ASSERT_EQ(layout.Parse(QString::fromStdString(CSFVideoWindow::GetGridLayout(3, 3))), 1);
     ASSERT_EQ(layout.Resize(100, 50), 1);
     std::set<std::pair<int, int>> columns; // left, width
     std::set<std::pair<int, int>> rows;

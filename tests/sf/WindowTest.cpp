@@ -1,6 +1,6 @@
 // Dialogs and main windows: both roads of a click, the OK and Cancel ids,
-// modal runs, UI messages, the order of destruction, frame composition on
-// pixels and the caption buttons.
+// modal runs, the order of destruction, frame composition on pixels and the
+// caption buttons.
 
 #include "SfTestSupport.h"
 
@@ -94,22 +94,6 @@ TEST(DialogIds, IdTwoRejectsWithNothingMapped)
     EXPECT_FALSE(dlg->isVisible());
 }
 
-TEST(UIMessages, SentAtOnceAndPostedLater)
-{
-    CLoggingDialogHandler handler;
-    CSFQTMainWindow window(&handler);
-    SFSendUIMessage(handler.GetUIWnd(), 5, 42);
-    EXPECT_EQ(handler.log, (Log{ "ui:42/5" }));
-    SFPostUIMessage(handler.GetUIWnd(), 5, 43);
-    EXPECT_EQ(handler.log.size(), 1u);
-    EXPECT_EVENTUALLY_EQ(handler.log.size(), std::size_t(2));
-    EXPECT_EQ(handler.log.back(), "ui:43/5");
-    SFSendUIMessage(handler.GetUIWnd(), 6, 1); // not mapped
-    SFSendUIMessage(nullptr, 5, 1);
-    SFPostUIMessage(nullptr, 5, 1);
-    EXPECT_EQ(handler.log.size(), 2u);
-}
-
 TEST(ModalRun, OkButtonGivesOne)
 {
     CLoggingDialogHandler handler;
@@ -156,17 +140,6 @@ TEST(ModalRun, ClosingGivesTwoAndEscapeAloneDoesNotClose)
     CSFDialog* main = SFCreateMainWindow(&mainHandler, nullptr);
     EXPECT_EQ(main->DoModalDlg(), -1);
     SFDestroyControl(main);
-}
-
-TEST(CloseEvent, DlgCloseOfOneKeepsTheWindowOpen)
-{
-    CLoggingDialogHandler handler;
-    auto dlg = ShownDialog(&handler);
-    handler.closeResult = 1;
-    EXPECT_FALSE(dlg->close());
-    EXPECT_TRUE(dlg->isVisible());
-    handler.closeResult = 0;
-    EXPECT_TRUE(dlg->close());
 }
 
 TEST(CloseEvent, HiddenMainWindowClosedByMessageEndsTheLoop)
