@@ -1,4 +1,4 @@
-#include "ConfigAssert.h"
+#include "Config/ConfigAssert.h"
 
 #include <cstdio>
 #include <cstdlib>

@@ -1,10 +1,10 @@
-#include "ConfigXMLPersistImp.h"
+#include "Config/ConfigXMLPersistImp.h"
 
 #include <cstdio>
 #include <sys/stat.h>
 
-#include "SFStreamConvert.h"
-#include "XmlFileLoader.h"
+#include "language/SFStreamConvert.h"
+#include "language/XmlFileLoader.h"
 
 using SF_SOFT_BASE::CSFStreamConvert;
 

@@ -3,7 +3,7 @@
 #include <string>
 #include <tinyxml.h>
 
-#include "IConfigPersistent.h"
+#include "Config/IConfigPersistent.h"
 
 // Settings read from "config.xml" in the current directory.
 class CConfigXMLPersistImp : public IConfigPersistent {

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "WinTypes.h"
+#include "platform/WinTypes.h"
 
 // Reader of named settings grouped in sections. The spare arguments are
 // passed as 0 and read by nobody; they keep the slot signatures stable.

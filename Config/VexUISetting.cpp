@@ -1,4 +1,4 @@
-#include "VexUISetting.h"
+#include "Config/VexUISetting.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -7,9 +7,9 @@
 #include <sys/stat.h>
 #include <tinyxml.h>
 
-#include "IConfigPersistent.h"
-#include "SFStreamConvert.h"
-#include "VexUISettingItem.h"
+#include "Config/IConfigPersistent.h"
+#include "language/SFStreamConvert.h"
+#include "Config/VexUISettingItem.h"
 
 using SF_SOFT_BASE::CSFStreamConvert;
 

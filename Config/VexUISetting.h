@@ -2,7 +2,7 @@
 
 #include <list>
 
-#include "WinTypes.h"
+#include "platform/WinTypes.h"
 
 class IConfigPersistent;
 class VexUISettingItem;

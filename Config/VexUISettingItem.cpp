@@ -1,12 +1,12 @@
-#include "VexUISettingItem.h"
+#include "Config/VexUISettingItem.h"
 
 #include <cstddef>
 #include <string>
 #include <tinyxml.h>
 
-#include "ConfigAssert.h"
-#include "IConfigPersistent.h"
-#include "SFStreamConvert.h"
+#include "Config/ConfigAssert.h"
+#include "Config/IConfigPersistent.h"
+#include "language/SFStreamConvert.h"
 
 using SF_SOFT_BASE::CSFStreamConvert;
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "WinTypes.h"
+#include "platform/WinTypes.h"
 
 class IConfigPersistent;
 class TiXmlElement;

@@ -1,14 +1,14 @@
-#include "CalculatorBottom.h"
+#include "calculator/CalculatorBottom.h"
 
-#include "CapacityUnits.h"
-#include "LangString.h"
-#include "SFButton.h"
-#include "SFComboBox.h"
-#include "SFEditCtrl.h"
-#include "SFFactory.h"
-#include "SFNumSpiner.h"
-#include "SFRadioBox.h"
-#include "SFStatic.h"
+#include "calculator/engine/CapacityUnits.h"
+#include "language/LangString.h"
+#include "sf/SFButton.h"
+#include "sf/SFComboBox.h"
+#include "sf/SFEditCtrl.h"
+#include "sf/SFFactory.h"
+#include "sf/SFNumSpiner.h"
+#include "sf/SFRadioBox.h"
+#include "sf/SFStatic.h"
 
 namespace {
 

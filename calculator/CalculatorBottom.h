@@ -2,16 +2,16 @@
 // The calculator panel below the channel table: four modes, one answer at a
 // time, from the totals the channel page reports and the panel's own inputs.
 
-#include "ISFButtonEvent.h"
-#include "ISFCheckBoxEvent.h"
-#include "ISFComboBoxEvent.h"
-#include "ISFEditCtrlEvent.h"
-#include "ISFNumSpinerEvent.h"
-#include "ISFRadioBoxEvent.h"
-#include "ISFStaticEvent.h"
-#include "ISFViewEvent.h"
-#include "RaidTables.h"
-#include "WinTypes.h"
+#include "sf/ISFButtonEvent.h"
+#include "sf/ISFCheckBoxEvent.h"
+#include "sf/ISFComboBoxEvent.h"
+#include "sf/ISFEditCtrlEvent.h"
+#include "sf/ISFNumSpinerEvent.h"
+#include "sf/ISFRadioBoxEvent.h"
+#include "sf/ISFStaticEvent.h"
+#include "sf/ISFViewEvent.h"
+#include "calculator/engine/RaidTables.h"
+#include "platform/WinTypes.h"
 
 #include <string>
 

@@ -1,12 +1,12 @@
 // What the panel's own controls report: mode switches, choices and typing.
 
-#include "CalculatorBottom.h"
+#include "calculator/CalculatorBottom.h"
 
-#include "SFComboBox.h"
-#include "SFEditCtrl.h"
-#include "SFRadioBox.h"
-#include "TextConvert.h"
-#include "WinWideString.h"
+#include "sf/SFComboBox.h"
+#include "sf/SFEditCtrl.h"
+#include "sf/SFRadioBox.h"
+#include "language/TextConvert.h"
+#include "platform/WinWideString.h"
 
 #include <cwchar>
 #include <string>

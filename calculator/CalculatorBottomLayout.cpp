@@ -1,14 +1,14 @@
 // Placement of the inputs of each mode and of the result area.
 
-#include "CalculatorBottom.h"
+#include "calculator/CalculatorBottom.h"
 
-#include "LangString.h"
-#include "SFButton.h"
-#include "SFComboBox.h"
-#include "SFEditCtrl.h"
-#include "SFNumSpiner.h"
-#include "SFRadioBox.h"
-#include "SFStatic.h"
+#include "language/LangString.h"
+#include "sf/SFButton.h"
+#include "sf/SFComboBox.h"
+#include "sf/SFEditCtrl.h"
+#include "sf/SFNumSpiner.h"
+#include "sf/SFRadioBox.h"
+#include "sf/SFStatic.h"
 
 namespace {
 

@@ -1,19 +1,19 @@
 // The answer of each mode, read from the controls on every call.
 
-#include "CalculatorBottom.h"
+#include "calculator/CalculatorBottom.h"
 
-#include "CapacityTable.h"
-#include "DeviceCount.h"
-#include "DiskRequirement.h"
-#include "LangString.h"
-#include "RaidCapacity.h"
-#include "RecordingDays.h"
-#include "SFComboBox.h"
-#include "SFEditCtrl.h"
-#include "SFNumSpiner.h"
-#include "SFStatic.h"
-#include "VexUISetting.h"
-#include "WeeklyPlan.h"
+#include "calculator/engine/CapacityTable.h"
+#include "calculator/engine/DeviceCount.h"
+#include "calculator/engine/DiskRequirement.h"
+#include "language/LangString.h"
+#include "calculator/engine/RaidCapacity.h"
+#include "calculator/engine/RecordingDays.h"
+#include "sf/SFComboBox.h"
+#include "sf/SFEditCtrl.h"
+#include "sf/SFNumSpiner.h"
+#include "sf/SFStatic.h"
+#include "Config/VexUISetting.h"
+#include "calculator/engine/WeeklyPlan.h"
 
 #include <string>
 #include <vector>

@@ -1,4 +1,4 @@
-#include "FuzzEntries.h"
+#include "fuzz/entries/FuzzEntries.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {

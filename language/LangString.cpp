@@ -1,4 +1,4 @@
-#include "LangString.h"
+#include "language/LangString.h"
 
 #include <cstdlib>
 #include <cstring>
@@ -7,11 +7,11 @@
 #include <sys/stat.h>
 #include <tinyxml.h>
 
-#include "SFStreamConvert.h"
-#include "WinModule.h"
-#include "WinTypes.h"
-#include "WinWideString.h"
-#include "XmlFileLoader.h"
+#include "language/SFStreamConvert.h"
+#include "platform/WinModule.h"
+#include "platform/WinTypes.h"
+#include "platform/WinWideString.h"
+#include "language/XmlFileLoader.h"
 
 int g_nLanguage = 1;
 

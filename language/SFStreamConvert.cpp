@@ -1,9 +1,9 @@
-#include "SFStreamConvert.h"
+#include "language/SFStreamConvert.h"
 
 #include <cstring>
 #include <cwchar>
 
-#include "WinCodePage.h"
+#include "platform/WinCodePage.h"
 
 namespace SF_SOFT_BASE {
 

@@ -1,6 +1,6 @@
-#include "SFTextA.h"
+#include "language/SFTextA.h"
 
-#include "WinCodePage.h"
+#include "platform/WinCodePage.h"
 
 CSFTextA::CSFTextA(const wchar_t* text, unsigned int codePage) : CSFTextA(text, -1, codePage) {}
 

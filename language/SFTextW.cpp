@@ -1,6 +1,6 @@
-#include "SFTextW.h"
+#include "language/SFTextW.h"
 
-#include "WinCodePage.h"
+#include "platform/WinCodePage.h"
 
 CSFTextW::CSFTextW(const char* text, unsigned int codePage) : CSFTextW(text, -1, codePage) {}
 

@@ -1,8 +1,8 @@
-#include "TextConvert.h"
+#include "language/TextConvert.h"
 
 #include <cwchar>
 
-#include "WinCodePage.h"
+#include "platform/WinCodePage.h"
 
 int WideToNarrowInto(const wchar_t* text, char* buffer, int bufferLength, unsigned int codePage)
 {

@@ -1,4 +1,4 @@
-#include "XmlFileLoader.h"
+#include "language/XmlFileLoader.h"
 
 #include <cctype>
 #include <fstream>

@@ -1,4 +1,4 @@
-#include "WinCharset.h"
+#include "platform/WinCharset.h"
 
 #include <cctype>
 #include <cerrno>

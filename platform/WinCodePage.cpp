@@ -1,4 +1,4 @@
-#include "WinCodePage.h"
+#include "platform/WinCodePage.h"
 
 #include <algorithm>
 #include <climits>
@@ -6,7 +6,7 @@
 #include <cwchar>
 #include <string>
 
-#include "WinCharset.h"
+#include "platform/WinCharset.h"
 
 namespace {
 

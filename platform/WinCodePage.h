@@ -5,7 +5,7 @@
 // length needed. Returns the number of elements written (or needed), 0 on
 // failure (unknown code page, output too small).
 
-#include "WinTypes.h"
+#include "platform/WinTypes.h"
 
 int MultiByteToWideChar(UINT codePage, DWORD flags, const char* src, int srcLen,
                         wchar_t* dst, int dstLen);

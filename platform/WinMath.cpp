@@ -1,4 +1,4 @@
-#include "WinMath.h"
+#include "platform/WinMath.h"
 
 #include <cstdint>
 #include <limits>

@@ -1,4 +1,4 @@
-#include "WinModule.h"
+#include "platform/WinModule.h"
 
 #include <climits>
 #include <cstdlib>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "WinTypes.h"
+#include "platform/WinTypes.h"
 
 // The executable's own full path. Copies at most size - 1 characters and a
 // terminator; returns the length copied, or size when the path was cut.

@@ -1,4 +1,4 @@
-#include "WinRect.h"
+#include "platform/WinRect.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #pragma once
 // Rectangle functions with the results the Win32 functions of these names give.
 
-#include "WinTypes.h"
+#include "platform/WinTypes.h"
 
 BOOL SetRect(tagRECT* rc, int left, int top, int right, int bottom);
 BOOL SetRectEmpty(tagRECT* rc);

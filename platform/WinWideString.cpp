@@ -1,4 +1,4 @@
-#include "WinWideString.h"
+#include "platform/WinWideString.h"
 
 #include <cerrno>
 #include <cstdint>

@@ -3,7 +3,7 @@
 
 #include <cstddef>
 
-#include "WinTypes.h"
+#include "platform/WinTypes.h"
 
 int _wtoi(const wchar_t* text);
 long _wtol(const wchar_t* text);

@@ -1,7 +1,7 @@
-#include "PlayManagerUILogic.h"
+#include "preview/PlayManagerUILogic.h"
 
-#include "SFStreamConvert.h"
-#include "vexplay.h"
+#include "language/SFStreamConvert.h"
+#include "vexplay/vexplay.h"
 
 #include <boost/make_shared.hpp>
 

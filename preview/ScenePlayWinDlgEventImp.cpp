@@ -1,16 +1,16 @@
-#include "ScenePlayWinDlgEventImp.h"
+#include "preview/ScenePlayWinDlgEventImp.h"
 
-#include "DialogStyle.h"
-#include "ImageButtonStyle.h"
-#include "ImageVideoWindowStyle.h"
-#include "LangString.h"
-#include "PlayManagerUILogic.h"
-#include "SFApplication.h"
-#include "SFButton.h"
-#include "SFDialog.h"
-#include "SFFactory.h"
-#include "SFVideoWindow.h"
-#include "SFVideoWindowFactory.h"
+#include "sf/DialogStyle.h"
+#include "sf/ImageButtonStyle.h"
+#include "sf/ImageVideoWindowStyle.h"
+#include "language/LangString.h"
+#include "preview/PlayManagerUILogic.h"
+#include "sf/qt/SFApplication.h"
+#include "sf/SFButton.h"
+#include "sf/SFDialog.h"
+#include "sf/SFFactory.h"
+#include "sf/SFVideoWindow.h"
+#include "sf/SFVideoWindowFactory.h"
 
 namespace {
 

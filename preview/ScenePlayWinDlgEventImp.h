@@ -1,9 +1,9 @@
 #pragma once
 // The modal preview of one scene's sample clip, looping in a video window.
 
-#include "ISFButtonEvent.h"
-#include "ISFDialogEvent.h"
-#include "ISFVideoWindowEvent.h"
+#include "sf/ISFButtonEvent.h"
+#include "sf/ISFDialogEvent.h"
+#include "sf/ISFVideoWindowEvent.h"
 
 #include <string>
 

@@ -1,11 +1,11 @@
-#include "ScenePreview.h"
+#include "preview/ScenePreview.h"
 
-#include "DialogStyle.h"
-#include "LangString.h"
-#include "SFDialog.h"
-#include "SFFactory.h"
-#include "SFQtConvert.h"
-#include "ScenePlayWinDlgEventImp.h"
+#include "sf/DialogStyle.h"
+#include "language/LangString.h"
+#include "sf/SFDialog.h"
+#include "sf/SFFactory.h"
+#include "sf/qt/SFQtConvert.h"
+#include "preview/ScenePlayWinDlgEventImp.h"
 
 #include <new>
 

@@ -1,4 +1,4 @@
-#include "DialogStyle.h"
+#include "sf/DialogStyle.h"
 
 DialogStyle SFSmallDialogStyle()
 {

@@ -1,7 +1,7 @@
 #pragma once
 // Events of a skinned window, for the handler that owns the window.
 
-#include "SFEventBase.h"
+#include "sf/SFEventBase.h"
 
 class ISFDialogEvent : public CSFEventBase {
 public:

@@ -1,8 +1,8 @@
 #pragma once
 // Events of a view, the container a page is built on.
 
-#include "SFEventBase.h"
-#include "WinTypes.h"
+#include "sf/SFEventBase.h"
+#include "platform/WinTypes.h"
 
 class ISFViewEvent : public CSFEventBase {
 public:

@@ -1,10 +1,10 @@
 #pragma once
 // Abstract image button; CSFQTButton realises it.
 
-#include "ISFButtonEvent.h"
-#include "ImageButtonStyle.h"
-#include "SFControlTypes.h"
-#include "WinTypes.h"
+#include "sf/ISFButtonEvent.h"
+#include "sf/ImageButtonStyle.h"
+#include "sf/SFControlTypes.h"
+#include "platform/WinTypes.h"
 
 class CSFButton {
 public:

@@ -1,9 +1,9 @@
 #pragma once
 // Abstract check box; the application creates none.
 
-#include "ISFCheckBoxEvent.h"
-#include "ImageRadioBox.h"
-#include "WinTypes.h"
+#include "sf/ISFCheckBoxEvent.h"
+#include "sf/ImageRadioBox.h"
+#include "platform/WinTypes.h"
 
 class CSFCheckBox {
 public:

@@ -1,9 +1,9 @@
 #pragma once
 // Abstract combo box; CSFQTComboBox realises it.
 
-#include "ISFComboBoxEvent.h"
-#include "ImageComboBoxStyle.h"
-#include "WinTypes.h"
+#include "sf/ISFComboBoxEvent.h"
+#include "sf/ImageComboBoxStyle.h"
+#include "platform/WinTypes.h"
 
 class CSFComboBox {
 public:

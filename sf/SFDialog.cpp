@@ -1,4 +1,4 @@
-#include "SFDialog.h"
+#include "sf/SFDialog.h"
 
 CSFDialog::CSFDialog(ISFDialogEvent* handler)
     : m_pHandler(handler)

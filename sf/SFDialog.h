@@ -1,9 +1,9 @@
 #pragma once
 // Abstract skinned window; CSFQTDialog and CSFQTMainWindow realise it.
 
-#include "DialogStyle.h"
-#include "ISFDialogEvent.h"
-#include "WinTypes.h"
+#include "sf/DialogStyle.h"
+#include "sf/ISFDialogEvent.h"
+#include "platform/WinTypes.h"
 
 class CSFDialog {
 public:

@@ -1,8 +1,8 @@
 #pragma once
 // Abstract single-line edit; CSFQTEditCtrl realises it.
 
-#include "ISFEditCtrlEvent.h"
-#include "WinTypes.h"
+#include "sf/ISFEditCtrlEvent.h"
+#include "platform/WinTypes.h"
 
 class CSFEditCtrl {
 public:

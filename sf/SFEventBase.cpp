@@ -1,4 +1,4 @@
-#include "SFEventBase.h"
+#include "sf/SFEventBase.h"
 
 CSFEventBase::CSFEventBase()
     : m_pMessageIDs(nullptr)

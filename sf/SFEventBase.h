@@ -1,7 +1,7 @@
 #pragma once
 // Root of the window handler interfaces: owns the lookup in the handler's map.
 
-#include "SFMessageMap.h"
+#include "sf/SFMessageMap.h"
 
 class CSFEventBase {
 public:

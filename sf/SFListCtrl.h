@@ -1,14 +1,14 @@
 #pragma once
 // Abstract table with controls in its cells; CSFQTListCtrl realises it.
 
-#include "ISFListCtrlEvent.h"
-#include "ImageButtonStyle.h"
-#include "ImageComboBoxStyle.h"
-#include "ImageNumSpinerStyle.h"
-#include "ImageProgressCtrlStyle.h"
-#include "ImageRadioBox.h"
-#include "ListCtrlStyle.h"
-#include "WinTypes.h"
+#include "sf/ISFListCtrlEvent.h"
+#include "sf/ImageButtonStyle.h"
+#include "sf/ImageComboBoxStyle.h"
+#include "sf/ImageNumSpinerStyle.h"
+#include "sf/ImageProgressCtrlStyle.h"
+#include "sf/ImageRadioBox.h"
+#include "sf/ListCtrlStyle.h"
+#include "platform/WinTypes.h"
 
 #include <set>
 #include <string>

@@ -1,4 +1,4 @@
-#include "SFMessageMap.h"
+#include "sf/SFMessageMap.h"
 
 #include <cstddef>
 #include <new>

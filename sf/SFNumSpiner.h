@@ -1,9 +1,9 @@
 #pragma once
 // Abstract number spinner; CSFQTNumSpiner realises it.
 
-#include "ISFNumSpinerEvent.h"
-#include "ImageNumSpinerStyle.h"
-#include "WinTypes.h"
+#include "sf/ISFNumSpinerEvent.h"
+#include "sf/ImageNumSpinerStyle.h"
+#include "platform/WinTypes.h"
 
 class CSFNumSpiner {
 public:

@@ -1,8 +1,8 @@
 #pragma once
 // Abstract picture with optional centred text; CSFQTPictureCtrl realises it.
 
-#include "ISFPictureCtrlEvent.h"
-#include "WinTypes.h"
+#include "sf/ISFPictureCtrlEvent.h"
+#include "platform/WinTypes.h"
 
 class CSFPictureCtrl {
 public:

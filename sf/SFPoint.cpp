@@ -1,8 +1,8 @@
-#include "SFPoint.h"
+#include "sf/SFPoint.h"
 
-#include "SFRect.h"
-#include "SFSize.h"
-#include "SFWrapMath.h"
+#include "sf/SFRect.h"
+#include "sf/SFSize.h"
+#include "sf/SFWrapMath.h"
 
 using sf_detail::WrapAdd;
 using sf_detail::WrapNeg;

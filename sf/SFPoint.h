@@ -1,7 +1,7 @@
 #pragma once
 // A point with the operations of the Win32 geometry helpers.
 
-#include "WinTypes.h"
+#include "platform/WinTypes.h"
 
 class CSFSize;
 class CSFRect;

@@ -1,9 +1,9 @@
 #pragma once
 // Abstract image toggle; CSFQTRadioBox realises it.
 
-#include "ISFRadioBoxEvent.h"
-#include "ImageRadioBox.h"
-#include "WinTypes.h"
+#include "sf/ISFRadioBoxEvent.h"
+#include "sf/ImageRadioBox.h"
+#include "platform/WinTypes.h"
 
 class CSFRadioBox {
 public:

@@ -1,8 +1,8 @@
-#include "SFRect.h"
+#include "sf/SFRect.h"
 
-#include "SFWrapMath.h"
-#include "WinMath.h"
-#include "WinRect.h"
+#include "sf/SFWrapMath.h"
+#include "platform/WinMath.h"
+#include "platform/WinRect.h"
 
 #include <cstdint>
 #include <utility>

@@ -1,8 +1,8 @@
-#include "SFSize.h"
+#include "sf/SFSize.h"
 
-#include "SFPoint.h"
-#include "SFRect.h"
-#include "SFWrapMath.h"
+#include "sf/SFPoint.h"
+#include "sf/SFRect.h"
+#include "sf/SFWrapMath.h"
 
 #include <cstdint>
 

@@ -1,7 +1,7 @@
 #pragma once
 // A size with the operations of the Win32 geometry helpers.
 
-#include "WinTypes.h"
+#include "platform/WinTypes.h"
 
 class CSFPoint;
 class CSFRect;

@@ -1,8 +1,8 @@
 #pragma once
 // Abstract label; CSFQTStatic realises it.
 
-#include "ISFStaticEvent.h"
-#include "WinTypes.h"
+#include "sf/ISFStaticEvent.h"
+#include "platform/WinTypes.h"
 
 class CSFStatic {
 public:

@@ -1,4 +1,4 @@
-#include "SFVideoWindow.h"
+#include "sf/SFVideoWindow.h"
 
 #include <algorithm>
 #include <array>

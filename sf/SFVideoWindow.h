@@ -2,9 +2,9 @@
 // Abstract video window: an area split into sub windows by a layout text;
 // CSFQTVideoWindow realises it.
 
-#include "ISFVideoWindowEvent.h"
-#include "ImageVideoWindowStyle.h"
-#include "WinTypes.h"
+#include "sf/ISFVideoWindowEvent.h"
+#include "sf/ImageVideoWindowStyle.h"
+#include "platform/WinTypes.h"
 
 #include <string>
 

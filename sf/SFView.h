@@ -1,9 +1,9 @@
 #pragma once
 // Abstract view, the container of a page; CSFQTView realises it.
 
-#include "ISFViewEvent.h"
-#include "SFControlTypes.h"
-#include "WinTypes.h"
+#include "sf/ISFViewEvent.h"
+#include "sf/SFControlTypes.h"
+#include "platform/WinTypes.h"
 
 class CSFView {
 public:

@@ -2,7 +2,7 @@
 // Coordinate arithmetic that wraps like the 32-bit Win32 code instead of
 // overflowing, so odd rectangles never reach undefined behaviour.
 
-#include "WinTypes.h"
+#include "platform/WinTypes.h"
 
 namespace sf_detail {
 

@@ -1,15 +1,15 @@
-#include "AboutDlgEventImp.h"
+#include "shell/AboutDlgEventImp.h"
 
-#include "DialogStyle.h"
-#include "ImageButtonStyle.h"
-#include "LangString.h"
-#include "SFButton.h"
-#include "SFDialog.h"
-#include "SFFactory.h"
-#include "SFPictureCtrl.h"
-#include "SFRect.h"
-#include "SFStatic.h"
-#include "SFQtConvert.h"
+#include "sf/DialogStyle.h"
+#include "sf/ImageButtonStyle.h"
+#include "language/LangString.h"
+#include "sf/SFButton.h"
+#include "sf/SFDialog.h"
+#include "sf/SFFactory.h"
+#include "sf/SFPictureCtrl.h"
+#include "sf/SFRect.h"
+#include "sf/SFStatic.h"
+#include "sf/qt/SFQtConvert.h"
 
 #include <QDesktopServices>
 #include <QUrl>

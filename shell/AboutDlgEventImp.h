@@ -1,8 +1,8 @@
 #pragma once
 // The About dialog: banner picture, version and copyright lines, close button.
 
-#include "ISFButtonEvent.h"
-#include "ISFDialogEvent.h"
+#include "sf/ISFButtonEvent.h"
+#include "sf/ISFDialogEvent.h"
 
 #include <string>
 

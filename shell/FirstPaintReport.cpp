@@ -1,4 +1,4 @@
-#include "FirstPaintReport.h"
+#include "shell/FirstPaintReport.h"
 
 #include <QCoreApplication>
 #include <QEvent>

@@ -1,10 +1,10 @@
-#include "MainDlgEventImp.h"
+#include "shell/MainDlgEventImp.h"
 
-#include "DialogStyle.h"
-#include "SFFactory.h"
-#include "SFView.h"
-#include "TallixEventImp.h"
-#include "ToolBarEventImp.h"
+#include "sf/DialogStyle.h"
+#include "sf/SFFactory.h"
+#include "sf/SFView.h"
+#include "streams/TallixEventImp.h"
+#include "shell/ToolBarEventImp.h"
 
 SF_BEGIN_MSGMAP(CMainDlgEventImp)
 SF_END_MSGMAP()

@@ -2,8 +2,8 @@
 // Handler of the main window: the toolbar view on top, the channel list page
 // below it, both made once and kept for the life of the window.
 
-#include "ISFButtonEvent.h"
-#include "ISFDialogEvent.h"
+#include "sf/ISFButtonEvent.h"
+#include "sf/ISFDialogEvent.h"
 
 struct DialogStyle;
 class CSFDialog;

@@ -1,11 +1,11 @@
-#include "MainWindowBringUp.h"
+#include "shell/MainWindowBringUp.h"
 
-#include "DialogStyle.h"
-#include "FirstPaintReport.h"
-#include "LangString.h"
-#include "MainDlgEventImp.h"
-#include "SFDialog.h"
-#include "SFFactory.h"
+#include "sf/DialogStyle.h"
+#include "shell/FirstPaintReport.h"
+#include "language/LangString.h"
+#include "shell/MainDlgEventImp.h"
+#include "sf/SFDialog.h"
+#include "sf/SFFactory.h"
 
 #include <QWidget>
 

@@ -1,16 +1,16 @@
-#include "ToolBarEventImp.h"
+#include "shell/ToolBarEventImp.h"
 
-#include "AboutDlgEventImp.h"
-#include "DialogStyle.h"
-#include "ImageButtonStyle.h"
-#include "LangString.h"
-#include "MainDlgEventImp.h"
-#include "SFApplication.h"
-#include "SFButton.h"
-#include "SFDialog.h"
-#include "SFFactory.h"
-#include "SFPictureCtrl.h"
-#include "SFQtConvert.h"
+#include "shell/AboutDlgEventImp.h"
+#include "sf/DialogStyle.h"
+#include "sf/ImageButtonStyle.h"
+#include "language/LangString.h"
+#include "shell/MainDlgEventImp.h"
+#include "sf/qt/SFApplication.h"
+#include "sf/SFButton.h"
+#include "sf/SFDialog.h"
+#include "sf/SFFactory.h"
+#include "sf/SFPictureCtrl.h"
+#include "sf/qt/SFQtConvert.h"
 
 #include <string>
 

@@ -2,9 +2,9 @@
 // Handler of the toolbar view: the logo and the About, minimise and close
 // buttons that stand in for a title bar.
 
-#include "ISFButtonEvent.h"
-#include "ISFRadioBoxEvent.h"
-#include "ISFViewEvent.h"
+#include "sf/ISFButtonEvent.h"
+#include "sf/ISFRadioBoxEvent.h"
+#include "sf/ISFViewEvent.h"
 
 class CMainDlgEventImp;
 class CSFButton;

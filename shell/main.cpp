@@ -6,15 +6,15 @@
 #include <QWidget>
 #include <string>
 
-#include "ConfigXMLPersistImp.h"
-#include "DialogStyle.h"
-#include "LangString.h"
-#include "MainDlgEventImp.h"
-#include "MainWindowBringUp.h"
-#include "SFApplication.h"
-#include "SFFactory.h"
-#include "SFQtConvert.h"
-#include "VexUISetting.h"
+#include "Config/ConfigXMLPersistImp.h"
+#include "sf/DialogStyle.h"
+#include "language/LangString.h"
+#include "shell/MainDlgEventImp.h"
+#include "shell/MainWindowBringUp.h"
+#include "sf/qt/SFApplication.h"
+#include "sf/SFFactory.h"
+#include "sf/qt/SFQtConvert.h"
+#include "Config/VexUISetting.h"
 
 Q_LOGGING_CATEGORY(lcStart, "tallix.start", QtWarningMsg)
 

@@ -1,4 +1,4 @@
-#include "ChannelRowStyles.h"
+#include "streams/ChannelRowStyles.h"
 
 ListCtrlStyle ChannelListStyle()
 {

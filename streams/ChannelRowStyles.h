@@ -1,11 +1,11 @@
 #pragma once
 // Skin records of the channel page: the table, and the controls of a row.
 
-#include "ImageButtonStyle.h"
-#include "ImageComboBoxStyle.h"
-#include "ImageNumSpinerStyle.h"
-#include "ImageRadioBox.h"
-#include "ListCtrlStyle.h"
+#include "sf/ImageButtonStyle.h"
+#include "sf/ImageComboBoxStyle.h"
+#include "sf/ImageNumSpinerStyle.h"
+#include "sf/ImageRadioBox.h"
+#include "sf/ListCtrlStyle.h"
 
 ListCtrlStyle ChannelListStyle();
 ImageButtonStyle AddButtonStyle();

@@ -1,16 +1,16 @@
-#include "TallixEventImp.h"
+#include "streams/TallixEventImp.h"
 
-#include "CalculatorBottom.h"
-#include "ChannelRowStyles.h"
-#include "LangString.h"
-#include "SFButton.h"
-#include "SFFactory.h"
-#include "SFListCtrl.h"
-#include "SFListNotify.h"
-#include "SFQtConvert.h"
-#include "SFStatic.h"
-#include "SFView.h"
-#include "ScenePreview.h"
+#include "calculator/CalculatorBottom.h"
+#include "streams/ChannelRowStyles.h"
+#include "language/LangString.h"
+#include "sf/SFButton.h"
+#include "sf/SFFactory.h"
+#include "sf/SFListCtrl.h"
+#include "sf/SFListNotify.h"
+#include "sf/qt/SFQtConvert.h"
+#include "sf/SFStatic.h"
+#include "sf/SFView.h"
+#include "preview/ScenePreview.h"
 
 #include <QWidget>
 #include <string>

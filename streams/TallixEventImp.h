@@ -2,15 +2,15 @@
 // The channel list page: the stream table, its two buttons and the calculator
 // panel below it.
 
-#include "ISFButtonEvent.h"
-#include "ISFCheckBoxEvent.h"
-#include "ISFComboBoxEvent.h"
-#include "ISFEditCtrlEvent.h"
-#include "ISFListCtrlEvent.h"
-#include "ISFRadioBoxEvent.h"
-#include "ISFViewEvent.h"
+#include "sf/ISFButtonEvent.h"
+#include "sf/ISFCheckBoxEvent.h"
+#include "sf/ISFComboBoxEvent.h"
+#include "sf/ISFEditCtrlEvent.h"
+#include "sf/ISFListCtrlEvent.h"
+#include "sf/ISFRadioBoxEvent.h"
+#include "sf/ISFViewEvent.h"
 
-#include "StreamInfo.h"
+#include "streams/engine/StreamInfo.h"
 
 #include <map>
 #include <string>

@@ -1,15 +1,15 @@
-#include "ViewChannelInfoEditor.h"
+#include "streams/ViewChannelInfoEditor.h"
 
-#include "LangString.h"
-#include "SFButton.h"
-#include "SFComboBox.h"
-#include "SFControlTypes.h"
-#include "SFEditCtrl.h"
-#include "SFFactory.h"
-#include "SFListCtrl.h"
-#include "SFNumSpiner.h"
-#include "SFStatic.h"
-#include "TallixEventImp.h"
+#include "language/LangString.h"
+#include "sf/SFButton.h"
+#include "sf/SFComboBox.h"
+#include "sf/SFControlTypes.h"
+#include "sf/SFEditCtrl.h"
+#include "sf/SFFactory.h"
+#include "sf/SFListCtrl.h"
+#include "sf/SFNumSpiner.h"
+#include "sf/SFStatic.h"
+#include "streams/TallixEventImp.h"
 
 #include <string>
 

@@ -1,17 +1,17 @@
 // The stream editor's values: its rate rule, the reactions of a stream's
 // combos, and the reading and filling of the form.
 
-#include "ViewChannelInfoEditor.h"
+#include "streams/ViewChannelInfoEditor.h"
 
-#include "LangString.h"
-#include "NumericLocaleGuard.h"
-#include "SFComboBox.h"
-#include "SFEditCtrl.h"
-#include "SFNumSpiner.h"
-#include "SFShowMessage.h"
-#include "SFStreamConvert.h"
-#include "TallixEventImp.h"
-#include "WinWideString.h"
+#include "language/LangString.h"
+#include "calculator/engine/NumericLocaleGuard.h"
+#include "sf/SFComboBox.h"
+#include "sf/SFEditCtrl.h"
+#include "sf/SFNumSpiner.h"
+#include "sf/dialogs/SFShowMessage.h"
+#include "language/SFStreamConvert.h"
+#include "streams/TallixEventImp.h"
+#include "platform/WinWideString.h"
 
 #include <cstdio>
 #include <cstdlib>

@@ -1,4 +1,4 @@
-#include "ClipDecoder.h"
+#include "vexplay/ClipDecoder.h"
 
 extern "C" {
 #include <libavcodec/avcodec.h>

@@ -1,9 +1,9 @@
-#include "ClipPlayer.h"
+#include "vexplay/ClipPlayer.h"
 
-#include "ClipDecoder.h"
-#include "FrameScaler.h"
-#include "FrameSink.h"
-#include "SurfaceHub.h"
+#include "vexplay/ClipDecoder.h"
+#include "vexplay/FrameScaler.h"
+#include "vexplay/FrameSink.h"
+#include "vexplay/SurfaceHub.h"
 
 #include <algorithm>
 #include <utility>

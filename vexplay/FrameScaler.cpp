@@ -1,4 +1,4 @@
-#include "FrameScaler.h"
+#include "vexplay/FrameScaler.h"
 
 extern "C" {
 #include <libavutil/frame.h>

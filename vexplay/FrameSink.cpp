@@ -1,4 +1,4 @@
-#include "FrameSink.h"
+#include "vexplay/FrameSink.h"
 
 #include <utility>
 

@@ -1,9 +1,9 @@
-#include "PortTable.h"
+#include "vexplay/PortTable.h"
 
-#include "ClipDecoder.h"
-#include "ClipPlayer.h"
-#include "FrameSink.h"
-#include "SurfaceHub.h"
+#include "vexplay/ClipDecoder.h"
+#include "vexplay/ClipPlayer.h"
+#include "vexplay/FrameSink.h"
+#include "vexplay/SurfaceHub.h"
 
 #include <utility>
 

@@ -1,8 +1,8 @@
-#include "SurfaceHub.h"
+#include "vexplay/SurfaceHub.h"
 
-#include "FrameSink.h"
-#include "PortTable.h"
-#include "VideoSurface.h"
+#include "vexplay/FrameSink.h"
+#include "vexplay/PortTable.h"
+#include "vexplay/VideoSurface.h"
 
 #include <QCoreApplication>
 #include <QThread>

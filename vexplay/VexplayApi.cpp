@@ -1,8 +1,8 @@
 // The library's C entry points. Nothing may escape them but a result.
 
-#include "vexplay.h"
+#include "vexplay/vexplay.h"
 
-#include "PortTable.h"
+#include "vexplay/PortTable.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 // The program's side of the playback library's header: each call goes to the
 // library, loaded on the first one, and fails when it cannot be loaded.
-#include "VexplayLibrary.h"
+#include "vexplay/VexplayLibrary.h"
 
 namespace {
 

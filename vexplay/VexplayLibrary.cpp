@@ -1,6 +1,6 @@
-#include "VexplayLibrary.h"
+#include "vexplay/VexplayLibrary.h"
 
-#include "WinModule.h"
+#include "platform/WinModule.h"
 
 #include <QLoggingCategory>
 #include <dlfcn.h>

@@ -3,7 +3,7 @@
 // shared libraries, which the program would otherwise map, relocate and
 // initialise before its window shows, for a preview most sessions never open.
 
-#include "vexplay.h"
+#include "vexplay/vexplay.h"
 
 class CVexplayLibrary {
 public:

@@ -1,8 +1,8 @@
-#include "VideoSurface.h"
+#include "vexplay/VideoSurface.h"
 
-#include "FrameScaler.h"
-#include "FrameSink.h"
-#include "PortTable.h"
+#include "vexplay/FrameScaler.h"
+#include "vexplay/FrameSink.h"
+#include "vexplay/PortTable.h"
 
 #include <QEvent>
 #include <QPainter>

@@ -1,6 +1,6 @@
 // The start-up benchmark's floor: the least a Qt widget program does to put
 // a window of the main window's size on the screen.
-#include "FirstPaintReport.h"
+#include "shell/FirstPaintReport.h"
 
 #include <QApplication>
 #include <QWidget>

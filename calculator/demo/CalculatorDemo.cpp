@@ -11,16 +11,16 @@
 #include <QWidget>
 #include <string>
 
-#include "CalculatorBottom.h"
-#include "LangString.h"
-#include "SFApplication.h"
-#include "SFComboBox.h"
-#include "SFEditCtrl.h"
-#include "SFFactory.h"
-#include "SFQTStatic.h"
-#include "SFRadioBox.h"
-#include "SFView.h"
-#include "VexUISetting.h"
+#include "calculator/CalculatorBottom.h"
+#include "language/LangString.h"
+#include "sf/qt/SFApplication.h"
+#include "sf/SFComboBox.h"
+#include "sf/SFEditCtrl.h"
+#include "sf/SFFactory.h"
+#include "sf/qt/SFQTStatic.h"
+#include "sf/SFRadioBox.h"
+#include "sf/SFView.h"
+#include "Config/VexUISetting.h"
 
 namespace {
 

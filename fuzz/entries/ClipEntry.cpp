@@ -1,10 +1,10 @@
-#include "FuzzEntries.h"
+#include "fuzz/entries/FuzzEntries.h"
 
-#include "ClipDecoder.h"
-#include "FrameScaler.h"
-#include "FuzzCheck.h"
-#include "FuzzScratch.h"
-#include "vexplay.h"
+#include "vexplay/ClipDecoder.h"
+#include "vexplay/FrameScaler.h"
+#include "fuzz/entries/FuzzCheck.h"
+#include "fuzz/entries/FuzzScratch.h"
+#include "vexplay/vexplay.h"
 
 #include <QImage>
 #include <QSize>

@@ -1,10 +1,10 @@
-#include "FuzzEntries.h"
+#include "fuzz/entries/FuzzEntries.h"
 
-#include "ConfigXMLPersistImp.h"
-#include "FuzzCheck.h"
-#include "FuzzCurrentDir.h"
-#include "FuzzScratch.h"
-#include "FuzzSettingStore.h"
+#include "Config/ConfigXMLPersistImp.h"
+#include "fuzz/entries/FuzzCheck.h"
+#include "fuzz/entries/FuzzCurrentDir.h"
+#include "fuzz/entries/FuzzScratch.h"
+#include "fuzz/entries/FuzzSettingStore.h"
 
 #include <cstring>
 #include <memory>

@@ -1,10 +1,10 @@
-#include "FuzzEntries.h"
+#include "fuzz/entries/FuzzEntries.h"
 
-#include "FuzzCheck.h"
-#include "FuzzScratch.h"
-#include "LangString.h"
-#include "SFStreamConvert.h"
-#include "WinTypes.h"
+#include "fuzz/entries/FuzzCheck.h"
+#include "fuzz/entries/FuzzScratch.h"
+#include "language/LangString.h"
+#include "language/SFStreamConvert.h"
+#include "platform/WinTypes.h"
 
 #include <cwchar>
 #include <string>

@@ -1,6 +1,6 @@
-#include "FuzzCurrentDir.h"
+#include "fuzz/entries/FuzzCurrentDir.h"
 
-#include "FuzzCheck.h"
+#include "fuzz/entries/FuzzCheck.h"
 
 #include <filesystem>
 

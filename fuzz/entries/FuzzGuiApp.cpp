@@ -1,4 +1,4 @@
-#include "FuzzGuiApp.h"
+#include "fuzz/entries/FuzzGuiApp.h"
 
 #include <QGuiApplication>
 #include <cstdlib>

@@ -1,6 +1,6 @@
-#include "FuzzScratch.h"
+#include "fuzz/entries/FuzzScratch.h"
 
-#include "FuzzCheck.h"
+#include "fuzz/entries/FuzzCheck.h"
 
 #include <cstdlib>
 #include <filesystem>

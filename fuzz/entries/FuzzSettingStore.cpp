@@ -1,6 +1,6 @@
-#include "FuzzSettingStore.h"
+#include "fuzz/entries/FuzzSettingStore.h"
 
-#include "VexUISettingItem.h"
+#include "Config/VexUISettingItem.h"
 
 FuzzSettingStore::FuzzSettingStore()
 {

@@ -2,7 +2,7 @@
 // A settings store with one record of every type beside the program's own,
 // so that a file can reach every reader.
 
-#include "VexUISetting.h"
+#include "Config/VexUISetting.h"
 
 #include <string>
 

@@ -1,8 +1,8 @@
-#include "FuzzEntries.h"
+#include "fuzz/entries/FuzzEntries.h"
 
-#include "FuzzCheck.h"
-#include "FuzzScratch.h"
-#include "LangString.h"
+#include "fuzz/entries/FuzzCheck.h"
+#include "fuzz/entries/FuzzScratch.h"
+#include "language/LangString.h"
 
 #include <string>
 

@@ -1,7 +1,7 @@
-#include "FuzzEntries.h"
+#include "fuzz/entries/FuzzEntries.h"
 
-#include "FuzzCheck.h"
-#include "QTVideoWindowLayout.h"
+#include "fuzz/entries/FuzzCheck.h"
+#include "sf/qt/QTVideoWindowLayout.h"
 
 #include <QByteArray>
 #include <QString>

@@ -1,12 +1,12 @@
-#include "FuzzEntries.h"
+#include "fuzz/entries/FuzzEntries.h"
 
-#include "DialogStyle.h"
-#include "FuzzCheck.h"
-#include "FuzzGuiApp.h"
-#include "FuzzScratch.h"
-#include "SFApplication.h"
-#include "SFFrameSkin.h"
-#include "SFSkinParse.h"
+#include "sf/DialogStyle.h"
+#include "fuzz/entries/FuzzCheck.h"
+#include "fuzz/entries/FuzzGuiApp.h"
+#include "fuzz/entries/FuzzScratch.h"
+#include "sf/qt/SFApplication.h"
+#include "sf/qt/SFFrameSkin.h"
+#include "sf/qt/SFSkinParse.h"
 
 #include <QByteArray>
 #include <QDir>

@@ -1,8 +1,8 @@
-#include "FuzzEntries.h"
+#include "fuzz/entries/FuzzEntries.h"
 
-#include "FuzzCheck.h"
-#include "TextConvert.h"
-#include "WinTypes.h"
+#include "fuzz/entries/FuzzCheck.h"
+#include "language/TextConvert.h"
+#include "platform/WinTypes.h"
 
 #include <cstring>
 #include <cwchar>

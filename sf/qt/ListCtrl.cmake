@@ -7,4 +7,4 @@ target_sources(sf PRIVATE
   qt/SFQTListRowDelegate.cpp
   qt/SFFactoryListCtrl.cpp)
 # The row model estimates each row's bit rate.
-target_link_libraries(sf PRIVATE streams)
+target_link_libraries(sf PRIVATE streams_engine)

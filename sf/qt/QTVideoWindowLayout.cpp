@@ -1,6 +1,6 @@
-#include "QTVideoWindowLayout.h"
+#include "sf/qt/QTVideoWindowLayout.h"
 
-#include "SFVideoWindow.h"
+#include "sf/SFVideoWindow.h"
 
 #include <QList>
 #include <QStringView>

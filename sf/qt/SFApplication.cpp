@@ -1,4 +1,4 @@
-#include "SFApplication.h"
+#include "sf/qt/SFApplication.h"
 
 #include <QApplication>
 #include <QDir>

@@ -1,4 +1,4 @@
-#include "SFCustomEvent.h"
+#include "sf/qt/SFCustomEvent.h"
 
 QEvent::Type CSFCustomEvent::EventType()
 {

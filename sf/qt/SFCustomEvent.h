@@ -1,7 +1,7 @@
 #pragma once
 // The event a control sends to its parent window for the message map.
 
-#include "SFMessageMap.h"
+#include "sf/SFMessageMap.h"
 
 #include <QEvent>
 

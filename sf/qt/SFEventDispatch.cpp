@@ -1,8 +1,8 @@
-#include "SFEventDispatch.h"
+#include "sf/qt/SFEventDispatch.h"
 
-#include "SFCustomEvent.h"
-#include "SFEventBase.h"
-#include "SFQtConvert.h"
+#include "sf/qt/SFCustomEvent.h"
+#include "sf/SFEventBase.h"
+#include "sf/qt/SFQtConvert.h"
 
 #include <QCoreApplication>
 #include <QWidget>

@@ -1,7 +1,7 @@
 #pragma once
 // The roads from a control to the message map of its parent window's handler.
 
-#include "SFMessageMap.h"
+#include "sf/SFMessageMap.h"
 
 class CSFCustomEvent;
 class CSFEventBase;

@@ -1,8 +1,8 @@
-#include "SFFactory.h"
+#include "sf/SFFactory.h"
 
-#include "SFQTButton.h"
-#include "SFQTCheckBox.h"
-#include "SFQTRadioBox.h"
+#include "sf/qt/SFQTButton.h"
+#include "sf/qt/SFQTCheckBox.h"
+#include "sf/qt/SFQTRadioBox.h"
 
 #include <new>
 

@@ -1,9 +1,9 @@
-#include "SFFactory.h"
+#include "sf/SFFactory.h"
 
-#include "SFQTComboBox.h"
-#include "SFQTEditCtrl.h"
-#include "SFQTNumSpiner.h"
-#include "SFQTStatic.h"
+#include "sf/qt/SFQTComboBox.h"
+#include "sf/qt/SFQTEditCtrl.h"
+#include "sf/qt/SFQTNumSpiner.h"
+#include "sf/qt/SFQTStatic.h"
 
 #include <new>
 

@@ -1,6 +1,6 @@
-#include "SFFactory.h"
+#include "sf/SFFactory.h"
 
-#include "SFQTListCtrl.h"
+#include "sf/qt/SFQTListCtrl.h"
 
 #include <new>
 

@@ -1,7 +1,7 @@
-#include "SFVideoWindowFactory.h"
+#include "sf/SFVideoWindowFactory.h"
 
-#include "SFQTVideoWindow.h"
-#include "SFQtConvert.h"
+#include "sf/qt/SFQTVideoWindow.h"
+#include "sf/qt/SFQtConvert.h"
 
 #include <new>
 

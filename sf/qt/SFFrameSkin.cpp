@@ -1,6 +1,6 @@
-#include "SFFrameSkin.h"
+#include "sf/qt/SFFrameSkin.h"
 
-#include "SFSkinParse.h"
+#include "sf/qt/SFSkinParse.h"
 
 #include <QPainter>
 #include <QPainterPath>

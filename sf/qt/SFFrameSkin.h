@@ -2,7 +2,7 @@
 // What a skinned window keeps of its DialogStyle: the frame and background
 // images, the pieces of the frame, the caption buttons and the title area.
 
-#include "DialogStyle.h"
+#include "sf/DialogStyle.h"
 
 #include <QBitmap>
 #include <QColor>

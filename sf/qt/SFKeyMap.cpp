@@ -1,4 +1,4 @@
-#include "SFKeyMap.h"
+#include "sf/qt/SFKeyMap.h"
 
 namespace {
 

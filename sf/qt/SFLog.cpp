@@ -1,3 +1,3 @@
-#include "SFLog.h"
+#include "sf/qt/SFLog.h"
 
 Q_LOGGING_CATEGORY(lcSf, "tallix.sf", QtWarningMsg)

@@ -1,4 +1,4 @@
-#include "SFPicFade.h"
+#include "sf/qt/SFPicFade.h"
 
 #include <QEasingCurve>
 #include <QWidget>

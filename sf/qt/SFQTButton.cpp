@@ -1,10 +1,10 @@
-#include "SFQTButton.h"
+#include "sf/qt/SFQTButton.h"
 
-#include "SFEventDispatch.h"
-#include "SFLog.h"
-#include "SFQtConvert.h"
-#include "SFSkinParse.h"
-#include "SFSkinPicture.h"
+#include "sf/qt/SFEventDispatch.h"
+#include "sf/qt/SFLog.h"
+#include "sf/qt/SFQtConvert.h"
+#include "sf/qt/SFSkinParse.h"
+#include "sf/qt/SFSkinPicture.h"
 
 #include <QEnterEvent>
 #include <QFocusEvent>

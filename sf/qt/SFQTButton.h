@@ -2,8 +2,8 @@
 // The image button of every page: one of five skin pictures by state, with
 // optional text on top.
 
-#include "SFButton.h"
-#include "SFPicFade.h"
+#include "sf/SFButton.h"
+#include "sf/qt/SFPicFade.h"
 
 #include <QColor>
 #include <QPixmap>

@@ -1,6 +1,6 @@
-#include "SFQTCheckBox.h"
+#include "sf/qt/SFQTCheckBox.h"
 
-#include "SFEventDispatch.h"
+#include "sf/qt/SFEventDispatch.h"
 
 #include <QMouseEvent>
 #include <QPainter>

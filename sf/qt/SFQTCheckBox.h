@@ -2,8 +2,8 @@
 // The image check box, on the model of the image toggle: a release inside
 // flips it and reports. No page creates one.
 
-#include "SFCheckBox.h"
-#include "SFQTToggle.h"
+#include "sf/SFCheckBox.h"
+#include "sf/qt/SFQTToggle.h"
 
 #include <QPoint>
 #include <QPushButton>

@@ -1,9 +1,9 @@
-#include "SFQTComboBox.h"
+#include "sf/qt/SFQTComboBox.h"
 
-#include "SFLog.h"
-#include "SFQTComboDelegate.h"
-#include "SFQtConvert.h"
-#include "SFSkinParse.h"
+#include "sf/qt/SFLog.h"
+#include "sf/qt/SFQTComboDelegate.h"
+#include "sf/qt/SFQtConvert.h"
+#include "sf/qt/SFSkinParse.h"
 
 #include <QAbstractItemView>
 #include <QCommonStyle>

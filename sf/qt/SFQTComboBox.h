@@ -2,7 +2,7 @@
 // Combo box painted from slices of one skin image. Only a choice the user
 // makes reaches the handler: the item setters are silent.
 
-#include "SFComboBox.h"
+#include "sf/SFComboBox.h"
 
 #include <QComboBox>
 #include <QMetaObject>

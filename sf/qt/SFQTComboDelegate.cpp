@@ -1,4 +1,4 @@
-#include "SFQTComboDelegate.h"
+#include "sf/qt/SFQTComboDelegate.h"
 
 CSFQTComboDelegate::CSFQTComboDelegate(int rowHeight, QObject* parent)
     : QItemDelegate(parent), m_rowHeight(rowHeight)

@@ -1,8 +1,8 @@
-#include "SFQTDialog.h"
+#include "sf/qt/SFQTDialog.h"
 
-#include "SFCustomEvent.h"
-#include "SFEventDispatch.h"
-#include "SFQtConvert.h"
+#include "sf/qt/SFCustomEvent.h"
+#include "sf/qt/SFEventDispatch.h"
+#include "sf/qt/SFQtConvert.h"
 
 #include <QPointer>
 

@@ -1,7 +1,7 @@
 #pragma once
 // Every dialog of the program: a frameless QDialog that paints its own frame.
 
-#include "SFQTSkinWindow.h"
+#include "sf/qt/SFQTSkinWindow.h"
 
 #include <QDialog>
 

@@ -1,7 +1,7 @@
-#include "SFQTEditCtrl.h"
+#include "sf/qt/SFQTEditCtrl.h"
 
-#include "SFQtConvert.h"
-#include "SFSkinParse.h"
+#include "sf/qt/SFQtConvert.h"
+#include "sf/qt/SFSkinParse.h"
 
 #include <QBrush>
 #include <QKeyEvent>

@@ -2,7 +2,7 @@
 // Single-line edit whose commit (Return or leaving the field) reaches the
 // handler exactly once.
 
-#include "SFEditCtrl.h"
+#include "sf/SFEditCtrl.h"
 
 #include <QLineEdit>
 #include <QString>

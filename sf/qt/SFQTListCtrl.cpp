@@ -1,11 +1,11 @@
-#include "SFQTListCtrl.h"
+#include "sf/qt/SFQTListCtrl.h"
 
-#include "SFEventDispatch.h"
-#include "SFListNotify.h"
-#include "SFQTListRowDelegate.h"
-#include "SFQtConvert.h"
-#include "SFRadioBox.h"
-#include "SFSkinParse.h"
+#include "sf/qt/SFEventDispatch.h"
+#include "sf/SFListNotify.h"
+#include "sf/qt/SFQTListRowDelegate.h"
+#include "sf/qt/SFQtConvert.h"
+#include "sf/SFRadioBox.h"
+#include "sf/qt/SFSkinParse.h"
 
 #include <QHeaderView>
 #include <QItemSelectionModel>

@@ -8,13 +8,13 @@
 // deletion, cell buttons and checks), SFQTListCtrlRows.cpp (what the controls
 // of a row do to each other).
 
-#include "ISFButtonEvent.h"
-#include "ISFCheckBoxEvent.h"
-#include "ISFComboBoxEvent.h"
-#include "ISFEditCtrlEvent.h"
-#include "ISFNumSpinerEvent.h"
-#include "ISFRadioBoxEvent.h"
-#include "SFListCtrl.h"
+#include "sf/ISFButtonEvent.h"
+#include "sf/ISFCheckBoxEvent.h"
+#include "sf/ISFComboBoxEvent.h"
+#include "sf/ISFEditCtrlEvent.h"
+#include "sf/ISFNumSpinerEvent.h"
+#include "sf/ISFRadioBoxEvent.h"
+#include "sf/SFListCtrl.h"
 
 #include <QColor>
 #include <QHash>

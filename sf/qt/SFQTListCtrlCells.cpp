@@ -1,18 +1,18 @@
 // Cell pages: a transparent view in a cell holding the framework's own
 // controls, all of which report to the list control.
-#include "SFQTListCtrl.h"
+#include "sf/qt/SFQTListCtrl.h"
 
-#include "SFButton.h"
-#include "SFComboBox.h"
-#include "SFControlTypes.h"
-#include "SFEditCtrl.h"
-#include "SFFactory.h"
-#include "SFListCtrlIds.h"
-#include "SFNumSpiner.h"
-#include "SFQtConvert.h"
-#include "SFRadioBox.h"
-#include "SFSkinParse.h"
-#include "SFView.h"
+#include "sf/SFButton.h"
+#include "sf/SFComboBox.h"
+#include "sf/SFControlTypes.h"
+#include "sf/SFEditCtrl.h"
+#include "sf/SFFactory.h"
+#include "sf/SFListCtrlIds.h"
+#include "sf/SFNumSpiner.h"
+#include "sf/qt/SFQtConvert.h"
+#include "sf/SFRadioBox.h"
+#include "sf/qt/SFSkinParse.h"
+#include "sf/SFView.h"
 
 #include <QAbstractButton>
 #include <QComboBox>

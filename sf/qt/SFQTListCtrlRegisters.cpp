@@ -1,13 +1,13 @@
 // The registers of the row controls, row deletion, and the cell buttons and
 // checks of the list control.
-#include "SFQTListCtrl.h"
+#include "sf/qt/SFQTListCtrl.h"
 
-#include "SFButton.h"
-#include "SFComboBox.h"
-#include "SFEditCtrl.h"
-#include "SFEventDispatch.h"
-#include "SFNumSpiner.h"
-#include "SFRadioBox.h"
+#include "sf/SFButton.h"
+#include "sf/SFComboBox.h"
+#include "sf/SFEditCtrl.h"
+#include "sf/qt/SFEventDispatch.h"
+#include "sf/SFNumSpiner.h"
+#include "sf/SFRadioBox.h"
 
 #include <QProgressBar>
 #include <algorithm>

@@ -4,16 +4,16 @@
 // Setting an edit's text or a spinner's number reports synchronously and
 // comes back here; every reaction ends in the same state when passed twice.
 // A combo moved from code stays silent, so its follow-up runs here.
-#include "SFQTListCtrl.h"
+#include "sf/qt/SFQTListCtrl.h"
 
-#include "BitrateEstimate.h"
-#include "SFButton.h"
-#include "SFComboBox.h"
-#include "SFEditCtrl.h"
-#include "SFListCtrlIds.h"
-#include "SFNumSpiner.h"
-#include "SFStreamConvert.h"
-#include "TextConvert.h"
+#include "streams/engine/BitrateEstimate.h"
+#include "sf/SFButton.h"
+#include "sf/SFComboBox.h"
+#include "sf/SFEditCtrl.h"
+#include "sf/SFListCtrlIds.h"
+#include "sf/SFNumSpiner.h"
+#include "language/SFStreamConvert.h"
+#include "language/TextConvert.h"
 
 #include <cstdio>
 #include <cstdlib>

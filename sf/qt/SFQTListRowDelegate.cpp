@@ -1,6 +1,6 @@
-#include "SFQTListRowDelegate.h"
+#include "sf/qt/SFQTListRowDelegate.h"
 
-#include "SFQTListCtrl.h"
+#include "sf/qt/SFQTListCtrl.h"
 
 #include <QPainter>
 

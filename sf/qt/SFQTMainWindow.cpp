@@ -1,7 +1,7 @@
-#include "SFQTMainWindow.h"
+#include "sf/qt/SFQTMainWindow.h"
 
-#include "SFLog.h"
-#include "SFQtConvert.h"
+#include "sf/qt/SFLog.h"
+#include "sf/qt/SFQtConvert.h"
 
 #include <QAction>
 #include <QApplication>

@@ -1,7 +1,7 @@
 #pragma once
 // The one main window: a frameless QMainWindow that paints its own frame.
 
-#include "SFQTSkinWindow.h"
+#include "sf/qt/SFQTSkinWindow.h"
 
 #include <QMainWindow>
 #include <QMap>

@@ -1,7 +1,7 @@
-#include "SFQTNumSpiner.h"
+#include "sf/qt/SFQTNumSpiner.h"
 
-#include "SFQtConvert.h"
-#include "SFSkinParse.h"
+#include "sf/qt/SFQtConvert.h"
+#include "sf/qt/SFSkinParse.h"
 
 CSFQTNumSpiner::CSFQTNumSpiner(ISFNumSpinerEvent* handler, QWidget* parent)
     : QSpinBox(parent), CSFNumSpiner(handler), m_originStyle(0)

@@ -2,7 +2,7 @@
 // Number spinner skinned by a style sheet. Unlike the combo box it reports
 // every change, also those made from code.
 
-#include "SFNumSpiner.h"
+#include "sf/SFNumSpiner.h"
 
 #include <QSpinBox>
 

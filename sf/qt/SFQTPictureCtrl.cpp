@@ -1,7 +1,7 @@
-#include "SFQTPictureCtrl.h"
+#include "sf/qt/SFQTPictureCtrl.h"
 
-#include "SFQtConvert.h"
-#include "SFSkinParse.h"
+#include "sf/qt/SFQtConvert.h"
+#include "sf/qt/SFSkinParse.h"
 
 #include <QPainter>
 

@@ -1,7 +1,7 @@
 #pragma once
 // A skin picture stretched over the control, with centred text on top.
 
-#include "SFPictureCtrl.h"
+#include "sf/SFPictureCtrl.h"
 
 #include <QLabel>
 #include <QPixmap>

@@ -1,8 +1,8 @@
-#include "SFQTRadioBox.h"
+#include "sf/qt/SFQTRadioBox.h"
 
-#include "SFEventDispatch.h"
-#include "SFQtConvert.h"
-#include "SFSkinParse.h"
+#include "sf/qt/SFEventDispatch.h"
+#include "sf/qt/SFQtConvert.h"
+#include "sf/qt/SFSkinParse.h"
 
 #include <QEnterEvent>
 #include <QMouseEvent>

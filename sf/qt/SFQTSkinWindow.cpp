@@ -1,12 +1,12 @@
-#include "SFQTSkinWindow.h"
+#include "sf/qt/SFQTSkinWindow.h"
 
-#include "SFApplication.h"
-#include "SFCustomEvent.h"
-#include "SFEventDispatch.h"
-#include "SFKeyMap.h"
-#include "SFLog.h"
-#include "SFQtConvert.h"
-#include "SFSkinParse.h"
+#include "sf/qt/SFApplication.h"
+#include "sf/qt/SFCustomEvent.h"
+#include "sf/qt/SFEventDispatch.h"
+#include "sf/qt/SFKeyMap.h"
+#include "sf/qt/SFLog.h"
+#include "sf/qt/SFQtConvert.h"
+#include "sf/qt/SFSkinParse.h"
 
 #include <QApplication>
 #include <QCloseEvent>

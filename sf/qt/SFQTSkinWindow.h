@@ -3,8 +3,8 @@
 // caption buttons, dragging, centring, keys, timers and drops. Instantiated
 // for QDialog and QMainWindow only.
 
-#include "SFDialog.h"
-#include "SFFrameSkin.h"
+#include "sf/SFDialog.h"
+#include "sf/qt/SFFrameSkin.h"
 
 #include <QMap>
 #include <QPixmap>

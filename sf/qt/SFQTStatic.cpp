@@ -1,7 +1,7 @@
-#include "SFQTStatic.h"
+#include "sf/qt/SFQTStatic.h"
 
-#include "SFQtConvert.h"
-#include "SFSkinParse.h"
+#include "sf/qt/SFQtConvert.h"
+#include "sf/qt/SFSkinParse.h"
 
 #include <QFontMetrics>
 #include <QPainter>

@@ -2,7 +2,7 @@
 // Label that paints its own text with DrawText-like flags and grows to fit
 // the text it is given; its text colour can flash.
 
-#include "SFStatic.h"
+#include "sf/SFStatic.h"
 
 #include <QColor>
 #include <QLabel>

@@ -1,8 +1,8 @@
-#include "SFQTToggle.h"
+#include "sf/qt/SFQTToggle.h"
 
-#include "SFCheckBox.h"
-#include "SFQtConvert.h"
-#include "SFRadioBox.h"
+#include "sf/SFCheckBox.h"
+#include "sf/qt/SFQtConvert.h"
+#include "sf/SFRadioBox.h"
 
 #include <QEnterEvent>
 #include <QMouseEvent>

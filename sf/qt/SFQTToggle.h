@@ -3,9 +3,9 @@
 // picked by state and check, and a release inside that flips the check and
 // reports it. Qt's own check follows m_checked, never the other way round.
 
-#include "ImageRadioBox.h"
-#include "SFToggleSkin.h"
-#include "WinTypes.h"
+#include "sf/ImageRadioBox.h"
+#include "sf/qt/SFToggleSkin.h"
+#include "platform/WinTypes.h"
 
 #include <QPoint>
 

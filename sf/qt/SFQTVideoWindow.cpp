@@ -1,9 +1,9 @@
-#include "SFQTVideoWindow.h"
+#include "sf/qt/SFQTVideoWindow.h"
 
-#include "SFQTVideoWindowPlayWnd.h"
-#include "SFQTVideoWindowSubWnd.h"
-#include "SFQtConvert.h"
-#include "SFSkinParse.h"
+#include "sf/qt/SFQTVideoWindowPlayWnd.h"
+#include "sf/qt/SFQTVideoWindowSubWnd.h"
+#include "sf/qt/SFQtConvert.h"
+#include "sf/qt/SFSkinParse.h"
 
 #include <QByteArray>
 #include <QPainter>

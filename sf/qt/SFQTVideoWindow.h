@@ -1,10 +1,10 @@
 #pragma once
 // The video window on a QWidget: sub windows placed by a CQTVideoWindowLayout.
 
-#include "ISFRadioBoxEvent.h"
-#include "ImageVideoWindowStyle.h"
-#include "QTVideoWindowLayout.h"
-#include "SFVideoWindow.h"
+#include "sf/ISFRadioBoxEvent.h"
+#include "sf/ImageVideoWindowStyle.h"
+#include "sf/qt/QTVideoWindowLayout.h"
+#include "sf/SFVideoWindow.h"
 
 #include <QColor>
 #include <QPixmap>

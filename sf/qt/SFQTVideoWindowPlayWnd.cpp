@@ -1,4 +1,4 @@
-#include "SFQTVideoWindowPlayWnd.h"
+#include "sf/qt/SFQTVideoWindowPlayWnd.h"
 
 #include <QPainter>
 

@@ -1,14 +1,14 @@
-#include "SFQTVideoWindowSubWnd.h"
+#include "sf/qt/SFQTVideoWindowSubWnd.h"
 
-#include "ImageButtonStyle.h"
-#include "ImageRadioBox.h"
-#include "SFButton.h"
-#include "SFControlTypes.h"
-#include "SFFactory.h"
-#include "SFQTVideoWindow.h"
-#include "SFQTVideoWindowPlayWnd.h"
-#include "SFQtConvert.h"
-#include "SFRadioBox.h"
+#include "sf/ImageButtonStyle.h"
+#include "sf/ImageRadioBox.h"
+#include "sf/SFButton.h"
+#include "sf/SFControlTypes.h"
+#include "sf/SFFactory.h"
+#include "sf/qt/SFQTVideoWindow.h"
+#include "sf/qt/SFQTVideoWindowPlayWnd.h"
+#include "sf/qt/SFQtConvert.h"
+#include "sf/SFRadioBox.h"
 
 #include <QMouseEvent>
 #include <QPainter>

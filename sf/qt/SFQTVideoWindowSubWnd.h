@@ -2,7 +2,7 @@
 // One sub window of the video window: a frame, a title bar with the close,
 // snapshot and property buttons and the drag toggle, and the play surface.
 
-#include "ISFButtonEvent.h"
+#include "sf/ISFButtonEvent.h"
 
 #include <QWidget>
 

@@ -1,11 +1,11 @@
-#include "SFQTView.h"
+#include "sf/qt/SFQTView.h"
 
-#include "SFApplication.h"
-#include "SFCustomEvent.h"
-#include "SFEventDispatch.h"
-#include "SFFrameSkin.h"
-#include "SFQtConvert.h"
-#include "SFSkinParse.h"
+#include "sf/qt/SFApplication.h"
+#include "sf/qt/SFCustomEvent.h"
+#include "sf/qt/SFEventDispatch.h"
+#include "sf/qt/SFFrameSkin.h"
+#include "sf/qt/SFQtConvert.h"
+#include "sf/qt/SFSkinParse.h"
 
 #include <QMouseEvent>
 #include <QPainter>

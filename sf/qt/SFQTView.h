@@ -2,7 +2,7 @@
 // The container of a page: paints a colour or an image and runs its
 // handler's message map for the controls placed on it.
 
-#include "SFView.h"
+#include "sf/SFView.h"
 
 #include <QColor>
 #include <QPixmap>

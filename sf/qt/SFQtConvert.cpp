@@ -1,8 +1,8 @@
-#include "SFQtConvert.h"
+#include "sf/qt/SFQtConvert.h"
 
-#include "SFControlTypes.h"
-#include "SFStreamConvert.h"
-#include "SFWrapMath.h"
+#include "sf/SFControlTypes.h"
+#include "language/SFStreamConvert.h"
+#include "sf/SFWrapMath.h"
 
 #include <QWidget>
 

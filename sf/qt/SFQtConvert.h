@@ -1,7 +1,7 @@
 #pragma once
 // Crossings between the facade's Win32-style values and Qt's.
 
-#include "WinTypes.h"
+#include "platform/WinTypes.h"
 
 #include <QRect>
 #include <QString>

@@ -1,7 +1,7 @@
-#include "SFSkinParse.h"
+#include "sf/qt/SFSkinParse.h"
 
-#include "SFApplication.h"
-#include "SFQtConvert.h"
+#include "sf/qt/SFApplication.h"
+#include "sf/qt/SFQtConvert.h"
 
 #include <QStringList>
 #include <algorithm>

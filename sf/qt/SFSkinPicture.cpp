@@ -1,6 +1,6 @@
-#include "SFSkinPicture.h"
+#include "sf/qt/SFSkinPicture.h"
 
-#include "SFSkinParse.h"
+#include "sf/qt/SFSkinParse.h"
 
 void SFLoadSkinPicture(QPixmap& picture, const std::wstring& file)
 {

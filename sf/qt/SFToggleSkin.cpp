@@ -1,6 +1,6 @@
-#include "SFToggleSkin.h"
+#include "sf/qt/SFToggleSkin.h"
 
-#include "SFSkinPicture.h"
+#include "sf/qt/SFSkinPicture.h"
 
 namespace {
 

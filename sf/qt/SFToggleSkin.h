@@ -1,7 +1,7 @@
 #pragma once
 // The eight pictures of an image toggle, picked by state and check.
 
-#include "ImageRadioBox.h"
+#include "sf/ImageRadioBox.h"
 
 #include <QPixmap>
 

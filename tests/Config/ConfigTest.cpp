@@ -1,12 +1,12 @@
 // The settings file: what a broken or odd file gives when loaded, and the
 // ranges of scaled settings.
 
-#include "ConfigXMLPersistImp.h"
-#include "VexUISetting.h"
-#include "VexUISettingItem.h"
+#include "Config/ConfigXMLPersistImp.h"
+#include "Config/VexUISetting.h"
+#include "Config/VexUISettingItem.h"
 
-#include "BadXml.h"
-#include "TempDir.h"
+#include "tests/support/BadXml.h"
+#include "tests/support/TempDir.h"
 
 #include <filesystem>
 #include <fstream>

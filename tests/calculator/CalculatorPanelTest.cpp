@@ -2,16 +2,16 @@
 // choices and typing: mode switches, the typed capacity, the weekly plan, the
 // bay lists of the RAID modes, and what each mode answers.
 
-#include "CalculatorBottom.h"
-#include "PageTestSupport.h"
-#include "QtWait.h"
-#include "SFButton.h"
-#include "SFComboBox.h"
-#include "SFEditCtrl.h"
-#include "SFNumSpiner.h"
-#include "SFQTStatic.h"
-#include "SFRadioBox.h"
-#include "VexUISetting.h"
+#include "calculator/CalculatorBottom.h"
+#include "tests/streams/PageTestSupport.h"
+#include "tests/support/QtWait.h"
+#include "sf/SFButton.h"
+#include "sf/SFComboBox.h"
+#include "sf/SFEditCtrl.h"
+#include "sf/SFNumSpiner.h"
+#include "sf/qt/SFQTStatic.h"
+#include "sf/SFRadioBox.h"
+#include "Config/VexUISetting.h"
 
 #include <QComboBox>
 #include <QLineEdit>

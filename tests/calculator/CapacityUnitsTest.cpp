@@ -5,10 +5,10 @@
 #include <limits>
 #include <string>
 
-#include "BoundedFormat.h"
-#include "CapacityUnits.h"
-#include "DiskRequirement.h"
-#include "SaturatingTruncate.h"
+#include "calculator/engine/BoundedFormat.h"
+#include "calculator/engine/CapacityUnits.h"
+#include "calculator/engine/DiskRequirement.h"
+#include "calculator/engine/SaturatingTruncate.h"
 
 namespace {
 

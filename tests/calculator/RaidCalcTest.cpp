@@ -2,9 +2,9 @@
 
 #include <vector>
 
-#include "DeviceCount.h"
-#include "RaidCapacity.h"
-#include "RaidTables.h"
+#include "calculator/engine/DeviceCount.h"
+#include "calculator/engine/RaidCapacity.h"
+#include "calculator/engine/RaidTables.h"
 
 namespace {
 

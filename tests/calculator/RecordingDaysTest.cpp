@@ -4,9 +4,9 @@
 #include <limits>
 #include <string>
 
-#include "CapacityTable.h"
-#include "RecordingDays.h"
-#include "WeeklyPlan.h"
+#include "calculator/engine/CapacityTable.h"
+#include "calculator/engine/RecordingDays.h"
+#include "calculator/engine/WeeklyPlan.h"
 
 namespace {
 

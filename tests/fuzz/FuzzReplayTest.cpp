@@ -2,7 +2,7 @@
 // target, goes through its target's entry: none may crash, hang or trip a
 // sanitizer. A crash ends the process, so the input is named before it runs.
 
-#include "FuzzEntries.h"
+#include "fuzz/entries/FuzzEntries.h"
 
 #include <gtest/gtest.h>
 

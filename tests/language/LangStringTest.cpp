@@ -4,10 +4,10 @@
 #include <string>
 #include <tinyxml.h>
 
-#include "BadXml.h"
-#include "LangString.h"
-#include "TempDir.h"
-#include "XmlFileLoader.h"
+#include "tests/support/BadXml.h"
+#include "language/LangString.h"
+#include "tests/support/TempDir.h"
+#include "language/XmlFileLoader.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
 #include <gtest/gtest.h>
 #include <string>
 
-#include "SFStreamConvert.h"
-#include "TextConvert.h"
-#include "WinTypes.h"
+#include "language/SFStreamConvert.h"
+#include "language/TextConvert.h"
+#include "platform/WinTypes.h"
 
 using SF_SOFT_BASE::CSFStreamConvert;
 

@@ -3,8 +3,8 @@
 #include <cstdlib>
 #include <string>
 
-#include "WinCharset.h"
-#include "WinCodePage.h"
+#include "platform/WinCharset.h"
+#include "platform/WinCodePage.h"
 
 namespace {
 

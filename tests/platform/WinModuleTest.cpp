@@ -4,7 +4,7 @@
 #include <string>
 #include <sys/stat.h>
 
-#include "WinModule.h"
+#include "platform/WinModule.h"
 
 namespace {
 

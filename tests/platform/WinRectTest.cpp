@@ -3,8 +3,8 @@
 #include <climits>
 #include <ostream>
 
-#include "WinMath.h"
-#include "WinRect.h"
+#include "platform/WinMath.h"
+#include "platform/WinRect.h"
 
 // Beside tagRECT in the global namespace, where lookup from gtest finds it.
 static std::ostream& operator<<(std::ostream& os, const tagRECT& r)

@@ -6,7 +6,7 @@
 #include <ostream>
 #include <string>
 
-#include "WinWideString.h"
+#include "platform/WinWideString.h"
 
 namespace {
 

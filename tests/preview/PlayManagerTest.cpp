@@ -1,10 +1,10 @@
 // The playback manager against the real library, with every call traced.
 
-#include "PlayManagerUILogic.h"
-#include "PlaybackStage.h"
-#include "PreviewTestSupport.h"
-#include "VexplayTrace.h"
-#include "vexplay.h"
+#include "preview/PlayManagerUILogic.h"
+#include "tests/vexplay/PlaybackStage.h"
+#include "tests/preview/PreviewTestSupport.h"
+#include "tests/preview/VexplayTrace.h"
+#include "vexplay/vexplay.h"
 
 #include <QTest>
 #include <fstream>

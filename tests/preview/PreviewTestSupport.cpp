@@ -1,10 +1,10 @@
-#include "PreviewTestSupport.h"
+#include "tests/preview/PreviewTestSupport.h"
 
-#include "LangString.h"
-#include "PlaybackStage.h"
-#include "SFApplication.h"
-#include "ScenePreview.h"
-#include "VexplayTrace.h"
+#include "language/LangString.h"
+#include "tests/vexplay/PlaybackStage.h"
+#include "sf/qt/SFApplication.h"
+#include "preview/ScenePreview.h"
+#include "tests/preview/VexplayTrace.h"
 
 #include <QApplication>
 #include <QFile>

@@ -1,9 +1,9 @@
 // The preview dialog run modally the way the channel page runs it.
 
-#include "PlaybackStage.h"
-#include "PreviewTestSupport.h"
-#include "SFQTVideoWindow.h"
-#include "VexplayTrace.h"
+#include "tests/vexplay/PlaybackStage.h"
+#include "tests/preview/PreviewTestSupport.h"
+#include "sf/qt/SFQTVideoWindow.h"
+#include "tests/preview/VexplayTrace.h"
 
 #include <QAbstractButton>
 #include <QImage>

@@ -1,6 +1,6 @@
-#include "VexplayTrace.h"
+#include "tests/preview/VexplayTrace.h"
 
-#include "vexplay.h"
+#include "vexplay/vexplay.h"
 
 #include <QCoreApplication>
 #include <QThread>

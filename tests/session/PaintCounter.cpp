@@ -1,4 +1,4 @@
-#include "PaintCounter.h"
+#include "tests/session/PaintCounter.h"
 
 #include <QEvent>
 #include <QWidget>

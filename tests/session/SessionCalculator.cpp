@@ -1,15 +1,15 @@
-#include "SessionCalculator.h"
+#include "tests/session/SessionCalculator.h"
 
-#include "CalculatorBottom.h"
-#include "LangString.h"
-#include "SFButton.h"
-#include "SFComboBox.h"
-#include "SFEditCtrl.h"
-#include "SFNumSpiner.h"
-#include "SFRadioBox.h"
-#include "SFStatic.h"
-#include "SessionUser.h"
-#include "VexUISetting.h"
+#include "calculator/CalculatorBottom.h"
+#include "language/LangString.h"
+#include "sf/SFButton.h"
+#include "sf/SFComboBox.h"
+#include "sf/SFEditCtrl.h"
+#include "sf/SFNumSpiner.h"
+#include "sf/SFRadioBox.h"
+#include "sf/SFStatic.h"
+#include "tests/session/SessionUser.h"
+#include "Config/VexUISetting.h"
 
 #include <QComboBox>
 #include <QLineEdit>

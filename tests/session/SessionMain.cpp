@@ -7,15 +7,15 @@
 // met and the program then shut down as it does for a user. Offscreen by
 // default; QT_LOGGING_RULES="tallix.session.info=true" prints each step's
 // time.
-#include "ConfigXMLPersistImp.h"
-#include "DialogStyle.h"
-#include "LangString.h"
-#include "MainDlgEventImp.h"
-#include "MainWindowBringUp.h"
-#include "SFApplication.h"
-#include "SFFactory.h"
-#include "SessionScript.h"
-#include "VexUISetting.h"
+#include "Config/ConfigXMLPersistImp.h"
+#include "sf/DialogStyle.h"
+#include "language/LangString.h"
+#include "shell/MainDlgEventImp.h"
+#include "shell/MainWindowBringUp.h"
+#include "sf/qt/SFApplication.h"
+#include "sf/SFFactory.h"
+#include "tests/session/SessionScript.h"
+#include "Config/VexUISetting.h"
 
 #include <QApplication>
 #include <QIcon>

@@ -1,10 +1,10 @@
-#include "SessionRows.h"
+#include "tests/session/SessionRows.h"
 
-#include "CalculatorBottom.h"
-#include "SFQTListCtrl.h"
-#include "SFStatic.h"
-#include "SessionUser.h"
-#include "TallixEventImp.h"
+#include "calculator/CalculatorBottom.h"
+#include "sf/qt/SFQTListCtrl.h"
+#include "sf/SFStatic.h"
+#include "tests/session/SessionUser.h"
+#include "streams/TallixEventImp.h"
 
 #include <QComboBox>
 #include <QLineEdit>

@@ -1,14 +1,14 @@
-#include "SessionScript.h"
+#include "tests/session/SessionScript.h"
 
-#include "CalculatorBottom.h"
-#include "LangString.h"
-#include "MainDlgEventImp.h"
-#include "PaintCounter.h"
-#include "SFQtConvert.h"
-#include "SFStatic.h"
-#include "SessionCalculator.h"
-#include "SessionRows.h"
-#include "TallixEventImp.h"
+#include "calculator/CalculatorBottom.h"
+#include "language/LangString.h"
+#include "shell/MainDlgEventImp.h"
+#include "tests/session/PaintCounter.h"
+#include "sf/qt/SFQtConvert.h"
+#include "sf/SFStatic.h"
+#include "tests/session/SessionCalculator.h"
+#include "tests/session/SessionRows.h"
+#include "streams/TallixEventImp.h"
 
 #include <QAbstractButton>
 #include <QDialog>

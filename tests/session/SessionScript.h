@@ -3,7 +3,7 @@
 // add and fill 50 rows, work every calculator mode, preview each scene,
 // delete some rows, "Clear All", and close through the toolbar's button.
 
-#include "SessionUser.h"
+#include "tests/session/SessionUser.h"
 
 #include <QString>
 

@@ -1,7 +1,7 @@
-#include "SessionUser.h"
+#include "tests/session/SessionUser.h"
 
-#include "LangString.h"
-#include "SFStatic.h"
+#include "language/LangString.h"
+#include "sf/SFStatic.h"
 
 #include <QAbstractItemView>
 #include <QApplication>

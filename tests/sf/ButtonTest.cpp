@@ -2,14 +2,14 @@
 // reports and its picture; the image toggle: release inside flips and
 // reports, outside does nothing, SetCheck is silent.
 
-#include "SfTestSupport.h"
+#include "tests/sf/SfTestSupport.h"
 
-#include "ISFButtonEvent.h"
-#include "ISFRadioBoxEvent.h"
-#include "SFFactory.h"
-#include "SFQTButton.h"
-#include "SFQTRadioBox.h"
-#include "SFView.h"
+#include "sf/ISFButtonEvent.h"
+#include "sf/ISFRadioBoxEvent.h"
+#include "sf/SFFactory.h"
+#include "sf/qt/SFQTButton.h"
+#include "sf/qt/SFQTRadioBox.h"
+#include "sf/SFView.h"
 
 #include <QColor>
 #include <QCursor>

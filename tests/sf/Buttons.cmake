@@ -1,5 +1,5 @@
 tallix_add_test(sf_buttons_tests
-  SOURCES SfTestSupport.cpp ButtonTest.cpp
-  LIBS sf Qt6::Test
+  SOURCES ButtonTest.cpp
+  LIBS tallix_sf_test_support
   QT)
 add_dependencies(sf_buttons_tests tallix_skins)

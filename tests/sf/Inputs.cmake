@@ -1,4 +1,4 @@
 tallix_add_test(sf_inputs_tests
-  SOURCES SfTestSupport.cpp InputsTest.cpp
-  LIBS sf Qt6::Test
+  SOURCES InputsTest.cpp
+  LIBS tallix_sf_test_support
   QT)

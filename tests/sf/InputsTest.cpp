@@ -1,18 +1,18 @@
 // The input controls: edit, combo box, label and number spinner, under real
 // keys, clicks and wheel.
 
-#include "SfTestSupport.h"
+#include "tests/sf/SfTestSupport.h"
 
-#include "ISFComboBoxEvent.h"
-#include "ISFEditCtrlEvent.h"
-#include "ISFNumSpinerEvent.h"
-#include "ImageComboBoxStyle.h"
-#include "SFControlTypes.h"
-#include "SFFactory.h"
-#include "SFQTComboBox.h"
-#include "SFQTEditCtrl.h"
-#include "SFQTNumSpiner.h"
-#include "SFQTStatic.h"
+#include "sf/ISFComboBoxEvent.h"
+#include "sf/ISFEditCtrlEvent.h"
+#include "sf/ISFNumSpinerEvent.h"
+#include "sf/ImageComboBoxStyle.h"
+#include "sf/SFControlTypes.h"
+#include "sf/SFFactory.h"
+#include "sf/qt/SFQTComboBox.h"
+#include "sf/qt/SFQTEditCtrl.h"
+#include "sf/qt/SFQTNumSpiner.h"
+#include "sf/qt/SFQTStatic.h"
 
 #include <QAbstractItemView>
 #include <QApplication>

@@ -1,8 +1,8 @@
 // Message map search and the handler-side dispatch.
 
-#include "ISFButtonEvent.h"
-#include "ISFDialogEvent.h"
-#include "SFMessageMap.h"
+#include "sf/ISFButtonEvent.h"
+#include "sf/ISFDialogEvent.h"
+#include "sf/SFMessageMap.h"
 
 #include <gtest/gtest.h>
 #include <string>

@@ -1,7 +1,7 @@
-#include "SfTestSupport.h"
+#include "tests/sf/SfTestSupport.h"
 
-#include "DialogStyle.h"
-#include "SFApplication.h"
+#include "sf/DialogStyle.h"
+#include "sf/qt/SFApplication.h"
 
 #include <QImage>
 #include <QPainter>

@@ -2,12 +2,12 @@
 // Handlers that log what reaches them, a minimal command control, and a skin
 // directory of generated pictures.
 
-#include "ISFButtonEvent.h"
-#include "ISFDialogEvent.h"
-#include "ISFViewEvent.h"
-#include "SFButton.h"
-#include "SFEventDispatch.h"
-#include "SFQtConvert.h"
+#include "sf/ISFButtonEvent.h"
+#include "sf/ISFDialogEvent.h"
+#include "sf/ISFViewEvent.h"
+#include "sf/SFButton.h"
+#include "sf/qt/SFEventDispatch.h"
+#include "sf/qt/SFQtConvert.h"
 
 #include <QColor>
 #include <QPushButton>

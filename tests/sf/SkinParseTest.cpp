@@ -1,7 +1,7 @@
 // Reading skin strings, and the rectangle and text crossings to Qt.
 
-#include "SFQtConvert.h"
-#include "SFSkinParse.h"
+#include "sf/qt/SFQtConvert.h"
+#include "sf/qt/SFSkinParse.h"
 
 #include <QColor>
 #include <QRect>

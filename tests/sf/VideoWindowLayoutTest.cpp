@@ -1,8 +1,8 @@
 // The layout language of the video window: parsing, writing and resizing
 // into pixels.
 
-#include "QTVideoWindowLayout.h"
-#include "SFVideoWindow.h"
+#include "sf/qt/QTVideoWindowLayout.h"
+#include "sf/SFVideoWindow.h"
 
 #include <gtest/gtest.h>
 #include <set>

@@ -2,18 +2,18 @@
 // modal runs, the order of destruction, frame composition on pixels and the
 // caption buttons.
 
-#include "SfTestSupport.h"
+#include "tests/sf/SfTestSupport.h"
 
-#include "DialogStyle.h"
-#include "SFFrameSkin.h"
-#include "SFCustomEvent.h"
-#include "SFFactory.h"
-#include "SFKeyMap.h"
-#include "SFPictureCtrl.h"
-#include "SFQTDialog.h"
-#include "SFQTMainWindow.h"
-#include "SFQTView.h"
-#include "SFView.h"
+#include "sf/DialogStyle.h"
+#include "sf/qt/SFFrameSkin.h"
+#include "sf/qt/SFCustomEvent.h"
+#include "sf/SFFactory.h"
+#include "sf/qt/SFKeyMap.h"
+#include "sf/SFPictureCtrl.h"
+#include "sf/qt/SFQTDialog.h"
+#include "sf/qt/SFQTMainWindow.h"
+#include "sf/qt/SFQTView.h"
+#include "sf/SFView.h"
 
 #include <QApplication>
 #include <QImage>
@@ -22,7 +22,7 @@
 #include <QTimer>
 #include <gtest/gtest.h>
 
-#include "QtWait.h"
+#include "tests/support/QtWait.h"
 #include <memory>
 
 namespace {

@@ -3,20 +3,20 @@
 // open) and the message dialog through SFShowMessage (its layout for short and
 // long texts and each button mode, and every way of closing it).
 
-#include "PageTestSupport.h"
+#include "tests/streams/PageTestSupport.h"
 
-#include "LangString.h"
-#include "MainDlgEventImp.h"
-#include "MsgDlgEventImp.h"
-#include "QtWait.h"
-#include "SFApplication.h"
-#include "SFFactory.h"
-#include "SFQTMainWindow.h"
-#include "SFQTPictureCtrl.h"
-#include "SFQTStatic.h"
-#include "SFQTView.h"
-#include "SFShowMessage.h"
-#include "ToolBarEventImp.h"
+#include "language/LangString.h"
+#include "shell/MainDlgEventImp.h"
+#include "sf/dialogs/MsgDlgEventImp.h"
+#include "tests/support/QtWait.h"
+#include "sf/qt/SFApplication.h"
+#include "sf/SFFactory.h"
+#include "sf/qt/SFQTMainWindow.h"
+#include "sf/qt/SFQTPictureCtrl.h"
+#include "sf/qt/SFQTStatic.h"
+#include "sf/qt/SFQTView.h"
+#include "sf/dialogs/SFShowMessage.h"
+#include "shell/ToolBarEventImp.h"
 
 #include <QAbstractButton>
 #include <QApplication>

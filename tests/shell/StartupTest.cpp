@@ -9,8 +9,8 @@
 #include <string>
 #include <sys/wait.h>
 
-#include "BadXml.h"
-#include "TempDir.h"
+#include "tests/support/BadXml.h"
+#include "tests/support/TempDir.h"
 
 namespace fs = std::filesystem;
 

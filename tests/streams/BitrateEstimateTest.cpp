@@ -1,8 +1,8 @@
 // The estimation library: a row's rate, the span and mean of a stream's rate,
 // and the resolution tables.
-#include "BitrateEstimate.h"
-#include "BitrateRange.h"
-#include "ResolutionTable.h"
+#include "streams/engine/BitrateEstimate.h"
+#include "streams/engine/BitrateRange.h"
+#include "streams/engine/ResolutionTable.h"
 
 #include <climits>
 #include <gtest/gtest.h>

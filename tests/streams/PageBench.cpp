@@ -6,18 +6,18 @@
 // Times are wall clock and, in brackets, the thread's processor time, which
 // other load on the machine disturbs less. TALLIX_BENCH_NO_CSS=1 runs without
 // the application style sheet, TALLIX_BENCH_CSS=<file> with another one.
-#include "CalculatorBottom.h"
-#include "DialogStyle.h"
-#include "LangString.h"
-#include "MainDlgEventImp.h"
-#include "MainWindowBringUp.h"
-#include "SFApplication.h"
-#include "SFDialog.h"
-#include "SFFactory.h"
-#include "SFQTListCtrl.h"
-#include "SFStatic.h"
-#include "TallixEventImp.h"
-#include "VexUISetting.h"
+#include "calculator/CalculatorBottom.h"
+#include "sf/DialogStyle.h"
+#include "language/LangString.h"
+#include "shell/MainDlgEventImp.h"
+#include "shell/MainWindowBringUp.h"
+#include "sf/qt/SFApplication.h"
+#include "sf/SFDialog.h"
+#include "sf/SFFactory.h"
+#include "sf/qt/SFQTListCtrl.h"
+#include "sf/SFStatic.h"
+#include "streams/TallixEventImp.h"
+#include "Config/VexUISetting.h"
 
 #include <QApplication>
 #include <QComboBox>

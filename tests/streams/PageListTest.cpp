@@ -1,9 +1,9 @@
 // The list control under the page's rows: what its cells read, each cell
 // control acting on its own row, the registers through deletion and
 // insertion, sorting, and the clicks that select a row.
-#include "CalculatorBottom.h"
-#include "PageTestSupport.h"
-#include "TallixEventImp.h"
+#include "calculator/CalculatorBottom.h"
+#include "tests/streams/PageTestSupport.h"
+#include "streams/TallixEventImp.h"
 
 #include <QCoreApplication>
 #include <QHeaderView>

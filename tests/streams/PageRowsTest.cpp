@@ -1,11 +1,11 @@
 // What the controls of a row do to each other, driven by a user's hand on the
 // real main window.
-#include "CalculatorBottom.h"
-#include "PageTestSupport.h"
-#include "SFComboBox.h"
-#include "SFEditCtrl.h"
-#include "SFListCtrlIds.h"
-#include "SFNumSpiner.h"
+#include "calculator/CalculatorBottom.h"
+#include "tests/streams/PageTestSupport.h"
+#include "sf/SFComboBox.h"
+#include "sf/SFEditCtrl.h"
+#include "sf/SFListCtrlIds.h"
+#include "sf/SFNumSpiner.h"
 
 #include <QApplication>
 #include <QString>

@@ -2,7 +2,7 @@
 // The real main window with its channel page, offscreen, and a driver that
 // works its rows the way a user does: clicks, popup choices, typing, keys.
 
-#include "SFQTListCtrl.h"
+#include "sf/qt/SFQTListCtrl.h"
 
 #include <QPoint>
 #include <QPointer>

@@ -1,8 +1,8 @@
 // The totals of the table, deletion and clearing, the area, and the handover
 // to each mode of the calculator panel.
-#include "CalculatorBottom.h"
-#include "LangString.h"
-#include "PageTestSupport.h"
+#include "calculator/CalculatorBottom.h"
+#include "language/LangString.h"
+#include "tests/streams/PageTestSupport.h"
 
 #include <QString>
 #include <gtest/gtest.h>

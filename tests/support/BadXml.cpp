@@ -1,4 +1,4 @@
-#include "BadXml.h"
+#include "tests/support/BadXml.h"
 
 #include <random>
 

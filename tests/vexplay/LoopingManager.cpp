@@ -1,6 +1,6 @@
-#include "LoopingManager.h"
+#include "tests/vexplay/LoopingManager.h"
 
-#include "vexplay.h"
+#include "vexplay/vexplay.h"
 
 #include <mutex>
 #include <set>

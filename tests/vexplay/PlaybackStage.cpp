@@ -1,4 +1,4 @@
-#include "PlaybackStage.h"
+#include "tests/vexplay/PlaybackStage.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>

@@ -1,4 +1,4 @@
-#include "SurfaceProbe.h"
+#include "tests/vexplay/SurfaceProbe.h"
 
 #include <QEvent>
 

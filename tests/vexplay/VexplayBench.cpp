@@ -10,9 +10,9 @@
 // second of clip. First frame: from the call of vexplay_Play to the first
 // paint event of the picture.
 
-#include "PlaybackStage.h"
-#include "SurfaceProbe.h"
-#include "vexplay.h"
+#include "tests/vexplay/PlaybackStage.h"
+#include "tests/vexplay/SurfaceProbe.h"
+#include "vexplay/vexplay.h"
 
 #include <QApplication>
 #include <QEventLoop>

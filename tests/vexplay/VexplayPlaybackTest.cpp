@@ -1,10 +1,10 @@
 // Playing the sample clips into a window: frames arrive, the clip ends on
 // time and restarts through its callback.
 
-#include "LoopingManager.h"
-#include "PlaybackStage.h"
-#include "SurfaceProbe.h"
-#include "vexplay.h"
+#include "tests/vexplay/LoopingManager.h"
+#include "tests/vexplay/PlaybackStage.h"
+#include "tests/vexplay/SurfaceProbe.h"
+#include "vexplay/vexplay.h"
 
 #include <QColor>
 #include <QImage>

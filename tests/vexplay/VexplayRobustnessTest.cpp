@@ -1,11 +1,11 @@
 // What must not hurt the library: wrong calls, bad files, a window that goes
 // while it plays, and the dialog's close racing the clip's restart.
 
-#include "LoopingManager.h"
-#include "PlaybackStage.h"
-#include "SurfaceProbe.h"
-#include "TempDir.h"
-#include "vexplay.h"
+#include "tests/vexplay/LoopingManager.h"
+#include "tests/vexplay/PlaybackStage.h"
+#include "tests/vexplay/SurfaceProbe.h"
+#include "tests/support/TempDir.h"
+#include "vexplay/vexplay.h"
 
 #include <gtest/gtest.h>
 

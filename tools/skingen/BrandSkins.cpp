@@ -1,8 +1,8 @@
-#include "BrandSkins.h"
+#include "tools/skingen/BrandSkins.h"
 
-#include "Glyphs.h"
-#include "SkinPalette.h"
-#include "SkinShapes.h"
+#include "tools/skingen/Glyphs.h"
+#include "tools/skingen/SkinPalette.h"
+#include "tools/skingen/SkinShapes.h"
 
 #include <QFont>
 #include <QFontMetricsF>

@@ -1,8 +1,8 @@
-#include "ButtonSkins.h"
+#include "tools/skingen/ButtonSkins.h"
 
-#include "Glyphs.h"
-#include "SkinPalette.h"
-#include "SkinShapes.h"
+#include "tools/skingen/Glyphs.h"
+#include "tools/skingen/SkinPalette.h"
+#include "tools/skingen/SkinShapes.h"
 
 #include <QLinearGradient>
 #include <QPainter>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "SkinEntry.h"
-#include "SkinState.h"
+#include "tools/skingen/SkinEntry.h"
+#include "tools/skingen/SkinState.h"
 
 #include <QRectF>
 

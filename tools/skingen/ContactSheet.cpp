@@ -1,4 +1,4 @@
-#include "ContactSheet.h"
+#include "tools/skingen/ContactSheet.h"
 
 #include <QDir>
 #include <QFont>

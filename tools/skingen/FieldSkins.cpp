@@ -1,7 +1,7 @@
-#include "FieldSkins.h"
+#include "tools/skingen/FieldSkins.h"
 
-#include "SkinPalette.h"
-#include "SkinShapes.h"
+#include "tools/skingen/SkinPalette.h"
+#include "tools/skingen/SkinShapes.h"
 
 #include <QPainter>
 

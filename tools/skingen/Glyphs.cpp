@@ -1,4 +1,4 @@
-#include "Glyphs.h"
+#include "tools/skingen/Glyphs.h"
 
 #include <QImage>
 #include <QPainter>

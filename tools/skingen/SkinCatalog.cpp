@@ -1,11 +1,11 @@
-#include "SkinCatalog.h"
+#include "tools/skingen/SkinCatalog.h"
 
-#include "BrandSkins.h"
-#include "ButtonSkins.h"
-#include "FieldSkins.h"
-#include "ToggleSkins.h"
-#include "VideoSkins.h"
-#include "WindowSkins.h"
+#include "tools/skingen/BrandSkins.h"
+#include "tools/skingen/ButtonSkins.h"
+#include "tools/skingen/FieldSkins.h"
+#include "tools/skingen/ToggleSkins.h"
+#include "tools/skingen/VideoSkins.h"
+#include "tools/skingen/WindowSkins.h"
 
 #include <QDir>
 #include <QHash>

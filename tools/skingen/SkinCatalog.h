@@ -1,6 +1,6 @@
 #pragma once
 
-#include "SkinEntry.h"
+#include "tools/skingen/SkinEntry.h"
 
 #include <QImage>
 #include <QStringList>

@@ -1,4 +1,4 @@
-#include "SkinShapes.h"
+#include "tools/skingen/SkinShapes.h"
 
 #include <QBrush>
 #include <QPainter>

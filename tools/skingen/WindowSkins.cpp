@@ -1,7 +1,7 @@
-#include "WindowSkins.h"
+#include "tools/skingen/WindowSkins.h"
 
-#include "SkinPalette.h"
-#include "SkinShapes.h"
+#include "tools/skingen/SkinPalette.h"
+#include "tools/skingen/SkinShapes.h"
 
 #include <QLinearGradient>
 #include <QPainter>

@@ -5,8 +5,8 @@
 // Names, when given, must be exactly the images drawn: the build lists them
 // and this keeps the two in step. --sheet also writes a contact sheet.
 
-#include "ContactSheet.h"
-#include "SkinCatalog.h"
+#include "tools/skingen/ContactSheet.h"
+#include "tools/skingen/SkinCatalog.h"
 
 #include <QGuiApplication>
 #include <QSet>

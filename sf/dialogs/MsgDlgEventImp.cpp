@@ -1,13 +1,13 @@
-#include "MsgDlgEventImp.h"
+#include "sf/dialogs/MsgDlgEventImp.h"
 
-#include "DialogStyle.h"
-#include "ImageButtonStyle.h"
-#include "LangString.h"
-#include "SFButton.h"
-#include "SFDialog.h"
-#include "SFFactory.h"
-#include "SFRect.h"
-#include "SFStatic.h"
+#include "sf/DialogStyle.h"
+#include "sf/ImageButtonStyle.h"
+#include "language/LangString.h"
+#include "sf/SFButton.h"
+#include "sf/SFDialog.h"
+#include "sf/SFFactory.h"
+#include "sf/SFRect.h"
+#include "sf/SFStatic.h"
 
 SF_BEGIN_MSGMAP(CMsgDlgEventImp)
     SF_ON_COMMAND(2003, OnBtnClose)

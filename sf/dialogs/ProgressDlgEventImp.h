@@ -2,7 +2,7 @@
 // A 100 by 100 dialog showing an animation from the skin directory while
 // work goes on. Kept ready; nothing in the program shows it yet.
 
-#include "ISFDialogEvent.h"
+#include "sf/ISFDialogEvent.h"
 
 #include <string>
 

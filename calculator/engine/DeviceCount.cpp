@@ -1,12 +1,12 @@
-#include "DeviceCount.h"
+#include "calculator/engine/DeviceCount.h"
 
 #include <climits>
 
-#include "BoundedFormat.h"
-#include "DiskRequirement.h"
-#include "RaidCapacity.h"
-#include "RaidTables.h"
-#include "SaturatingTruncate.h"
+#include "calculator/engine/BoundedFormat.h"
+#include "calculator/engine/DiskRequirement.h"
+#include "calculator/engine/RaidCapacity.h"
+#include "calculator/engine/RaidTables.h"
+#include "calculator/engine/SaturatingTruncate.h"
 
 namespace {
 

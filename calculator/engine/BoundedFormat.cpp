@@ -1,10 +1,10 @@
-#include "BoundedFormat.h"
+#include "calculator/engine/BoundedFormat.h"
 
 #include <cstdarg>
 #include <cwchar>
 #include <vector>
 
-#include "NumericLocaleGuard.h"
+#include "calculator/engine/NumericLocaleGuard.h"
 
 namespace {
 

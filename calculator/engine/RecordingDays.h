@@ -4,8 +4,8 @@
 
 #include <string>
 
-#include "CalcResult.h"
-#include "WeeklyPlan.h"
+#include "calculator/engine/CalcResult.h"
+#include "calculator/engine/WeeklyPlan.h"
 
 // Record plan combo entries.
 const int kRecordPlanAllDay = 0;   // "24 hours per day"

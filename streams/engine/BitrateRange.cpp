@@ -1,6 +1,6 @@
-#include "BitrateRange.h"
+#include "streams/engine/BitrateRange.h"
 
-#include "ResolutionTable.h"
+#include "streams/engine/ResolutionTable.h"
 
 #include <cstdint>
 #include <cstdlib>

@@ -1,4 +1,4 @@
-#include "SaturatingTruncate.h"
+#include "calculator/engine/SaturatingTruncate.h"
 
 #include <climits>
 #include <cmath>

@@ -1,8 +1,8 @@
-#include "ProgressDlgEventImp.h"
+#include "sf/dialogs/ProgressDlgEventImp.h"
 
-#include "SFApplication.h"
-#include "SFDialog.h"
-#include "SFQtConvert.h"
+#include "sf/qt/SFApplication.h"
+#include "sf/SFDialog.h"
+#include "sf/qt/SFQtConvert.h"
 
 #include <QLabel>
 #include <QMovie>

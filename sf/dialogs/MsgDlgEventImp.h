@@ -2,8 +2,8 @@
 // The message dialog: a wrapped text over OK, or OK and Cancel. Its height
 // follows the text; its width is fixed.
 
-#include "ISFButtonEvent.h"
-#include "ISFDialogEvent.h"
+#include "sf/ISFButtonEvent.h"
+#include "sf/ISFDialogEvent.h"
 
 #include <string>
 

@@ -1,10 +1,10 @@
-#include "WeeklyPlan.h"
+#include "calculator/engine/WeeklyPlan.h"
 
 #include <climits>
 
-#include "BoundedFormat.h"
-#include "SaturatingTruncate.h"
-#include "WinWideString.h"
+#include "calculator/engine/BoundedFormat.h"
+#include "calculator/engine/SaturatingTruncate.h"
+#include "platform/WinWideString.h"
 
 namespace {
 

@@ -1,10 +1,10 @@
-#include "SFShowMessage.h"
+#include "sf/dialogs/SFShowMessage.h"
 
-#include "DialogStyle.h"
-#include "MsgDlgEventImp.h"
-#include "SFDialog.h"
-#include "SFFactory.h"
-#include "SFQtConvert.h"
+#include "sf/DialogStyle.h"
+#include "sf/dialogs/MsgDlgEventImp.h"
+#include "sf/SFDialog.h"
+#include "sf/SFFactory.h"
+#include "sf/qt/SFQtConvert.h"
 
 int SFShowMessage(const wchar_t* text, const wchar_t* title, int btnMode, int reserved,
                   void* parent)

@@ -1,4 +1,4 @@
-#include "NumericLocaleGuard.h"
+#include "calculator/engine/NumericLocaleGuard.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #pragma once
 // Disk requirement: the capacity that a number of recording days occupies.
 
-#include "CalcResult.h"
+#include "calculator/engine/CalcResult.h"
 
 // The value shown for a total bit rate of 0; it is not flashed.
 extern const wchar_t* const kZeroDiskRequirementText;  // "0.00GB"

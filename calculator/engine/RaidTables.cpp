@@ -1,6 +1,6 @@
-#include "RaidTables.h"
+#include "calculator/engine/RaidTables.h"
 
-#include "BoundedFormat.h"
+#include "calculator/engine/BoundedFormat.h"
 
 namespace {
 

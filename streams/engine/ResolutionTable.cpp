@@ -1,4 +1,4 @@
-#include "ResolutionTable.h"
+#include "streams/engine/ResolutionTable.h"
 
 const ResolutionSize g_stResolutionNtsc[kResolutionRowCount] = {
     {704, 480},   {352, 480},   {704, 240},   {352, 240},   {176, 120},   {640, 480},

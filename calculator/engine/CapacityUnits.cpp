@@ -1,6 +1,6 @@
-#include "CapacityUnits.h"
+#include "calculator/engine/CapacityUnits.h"
 
-#include "BoundedFormat.h"
+#include "calculator/engine/BoundedFormat.h"
 
 namespace {
 

@@ -1,10 +1,10 @@
-#include "CapacityTable.h"
+#include "calculator/engine/CapacityTable.h"
 
 #include <cstdlib>
 #include <string>
 
-#include "NumericLocaleGuard.h"
-#include "WinCodePage.h"
+#include "calculator/engine/NumericLocaleGuard.h"
+#include "platform/WinCodePage.h"
 
 const double g_aCapacityNominal[kCapacityItemCount] = {
     32, 64, 128, 1024, 2048, 3072, 4096, 6144, 8192, 10240, 12288, 14336, 16384,

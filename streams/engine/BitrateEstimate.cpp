@@ -1,4 +1,4 @@
-#include "BitrateEstimate.h"
+#include "streams/engine/BitrateEstimate.h"
 
 // VGA and D1 are cheaper in area 1 on purpose.
 const double g_dReferenceKbpsArea1[kResolutionCount] = {

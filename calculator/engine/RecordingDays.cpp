@@ -1,8 +1,8 @@
-#include "RecordingDays.h"
+#include "calculator/engine/RecordingDays.h"
 
-#include "BoundedFormat.h"
-#include "SaturatingTruncate.h"
-#include "WinFormat.h"
+#include "calculator/engine/BoundedFormat.h"
+#include "calculator/engine/SaturatingTruncate.h"
+#include "platform/WinFormat.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "CalcResult.h"
+#include "calculator/engine/CalcResult.h"
 
 class CRaidTables;
 

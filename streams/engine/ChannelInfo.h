@@ -1,7 +1,7 @@
 #pragma once
 // A whole channel group by value.
 
-#include "StreamInfo.h"
+#include "streams/engine/StreamInfo.h"
 
 struct ChannelInfo {
     int nChannels = 0;

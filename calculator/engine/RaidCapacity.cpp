@@ -1,7 +1,7 @@
-#include "RaidCapacity.h"
+#include "calculator/engine/RaidCapacity.h"
 
-#include "BoundedFormat.h"
-#include "RaidTables.h"
+#include "calculator/engine/BoundedFormat.h"
+#include "calculator/engine/RaidTables.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "RaidReference.h"
+#include "calculator/engine/RaidReference.h"
 
 const int g_aBayClass[kBayClassCount] = {8, 16, 24, 36, 48};
 

@@ -1,6 +1,6 @@
-#include "DiskRequirement.h"
+#include "calculator/engine/DiskRequirement.h"
 
-#include "CapacityUnits.h"
+#include "calculator/engine/CapacityUnits.h"
 
 const wchar_t* const kZeroDiskRequirementText = L"0.00GB";
 
