@@ -4,12 +4,19 @@
 // below; the row may be stale after a deletion, the kind never is.
 
 constexpr unsigned int SF_LIST_ID_KIND_MASK = 0xF0000000u;
-constexpr unsigned int SF_LIST_ID_ENVIRONMENT = 0x30000000u; // combo and Preview button
-constexpr unsigned int SF_LIST_ID_COMPRESSION = 0x40000000u; // combo, and the bit-rate edit
-constexpr unsigned int SF_LIST_ID_RESOLUTION = 0x50000000u;
-constexpr unsigned int SF_LIST_ID_FRAMERATE = 0x60000000u;
+constexpr unsigned int SF_LIST_ID_BUTTON_COMBO = 0x30000000u; // combo and the button beside it
+constexpr unsigned int SF_LIST_ID_FIRST_COMBO = 0x40000000u; // combo, and the row's edit
+constexpr unsigned int SF_LIST_ID_SECOND_COMBO = 0x50000000u;
+constexpr unsigned int SF_LIST_ID_EDIT_COMBO = 0x60000000u;
 
-// Channel spinner, audio toggle and custom frame-rate edit carry the row alone.
+// The spinner, the check and the edit beside a combo carry the row alone.
+
+// Types of SetItemComboBox, with the id bases above in this order.
+constexpr int SF_LIST_COMBO_WITH_BUTTON = 0;
+constexpr int SF_LIST_COMBO_FIRST_PLAIN = 1;
+constexpr int SF_LIST_COMBO_SECOND_PLAIN = 2;
+constexpr int SF_LIST_COMBO_WITH_EDIT = 3;
+constexpr int SF_LIST_COMBO_TYPE_COUNT = 4;
 
 // The first button of SetItemWidget (the row's delete button), the same in all rows.
 constexpr unsigned int SF_LIST_ID_DELETE = 0x856u;

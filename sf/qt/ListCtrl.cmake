@@ -6,5 +6,3 @@ target_sources(sf PRIVATE
   qt/SFQTListCtrlRows.cpp
   qt/SFQTListRowDelegate.cpp
   qt/SFFactoryListCtrl.cpp)
-# The row model estimates each row's bit rate.
-target_link_libraries(sf PRIVATE streams_engine)

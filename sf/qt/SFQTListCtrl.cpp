@@ -92,6 +92,7 @@ CSFQTListCtrl::~CSFQTListCtrl()
         }
     }
     ForgetAll();
+    m_pBinder.reset();
     qDeleteAll(pages);
     delete dynamic_cast<QWidget*>(m_pHeaderCheck);
     m_pHeaderCheck = nullptr;

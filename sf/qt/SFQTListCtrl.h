@@ -1,17 +1,20 @@
 #pragma once
-// The table of channel rows. A cell holds either a text item or a small page
-// of the framework's own controls; the list control is the handler of those
-// controls and keeps one register per kind of row control.
+// A table whose cells hold either a text item or a small page of the
+// framework's own controls; the list control is the handler of those
+// controls and keeps one register per kind of row control. What the controls
+// of a row do to each other is left to a row binder.
 //
 // Sources: SFQTListCtrl.cpp (table, skin, notifications, sorting),
 // SFQTListCtrlCells.cpp (cell pages), SFQTListCtrlRegisters.cpp (registers,
-// deletion, cell buttons and checks), SFQTListCtrlRows.cpp (what the controls
-// of a row do to each other).
+// deletion, cell buttons and checks), SFQTListCtrlRows.cpp (the row events,
+// handed to the binder).
 
 #include "sf/ISFButtonEvent.h"
 #include "sf/ISFCheckBoxEvent.h"
 #include "sf/ISFComboBoxEvent.h"
 #include "sf/ISFEditCtrlEvent.h"
+#include "sf/ISFListRowBinder.h"
+#include "sf/ISFListRowCells.h"
 #include "sf/ISFNumSpinerEvent.h"
 #include "sf/ISFRadioBoxEvent.h"
 #include "sf/SFListCtrl.h"
@@ -26,6 +29,8 @@
 #include <QSet>
 #include <QTableWidget>
 #include <cstddef>
+#include <memory>
+#include <utility>
 #include <vector>
 
 class CSFButton;
@@ -44,7 +49,8 @@ class CSFQTListCtrl : public QTableWidget,
                       public ISFRadioBoxEvent,
                       public ISFCheckBoxEvent,
                       public ISFButtonEvent,
-                      public ISFNumSpinerEvent {
+                      public ISFNumSpinerEvent,
+                      public ISFListRowCells {
     Q_OBJECT
 public:
     // The registers, for RegisterRows and RegisterControl.
@@ -143,16 +149,30 @@ public:
     void RADIO_OnClicked(int checked, int id, tagPOINT pt, void* sender) override;
     void SetArea(int area) override;
 
-    // Events of the cell controls (ISF...Event). The row reactions of the
-    // channel table live in SFQTListCtrlRows.cpp.
+    // The list owns its binder; null makes it a plain table again.
+    void SetRowBinder(std::unique_ptr<ISFListRowBinder> binder);
+
+    // Events of the cell controls (ISF...Event), handed to the binder in
+    // SFQTListCtrlRows.cpp.
     void SelectChanged(int id, int index, void* sender) override;
     void EDIT_OnTextChange(unsigned int id, wchar_t* text, void* sender) override;
     void OnCurrentNumChanged(unsigned int id, int value, void* sender, int reserved) override;
     void BTN_OnClicked(int id) override;
 
-    // The row model of the channel table (SFQTListCtrlRows.cpp).
+    // The current row's pass and readiness, as the binder has them.
     void UpdateBitrate(int totalsOnly, int keepRowText);
     int IsRowReady();
+
+    // ISFListRowCells
+    CSFComboBox* RowCombo(int type, int row) const override;
+    CSFButton* RowComboButton(int row) const override;
+    CSFEditCtrl* RowComboEdit(int row) const override;
+    CSFEditCtrl* RowEdit(int row) const override;
+    CSFNumSpiner* RowSpiner(int row) const override;
+    int RowChecked(int row) const override;
+    std::vector<std::pair<CSFNumSpiner*, int>> RowSpiners() const override;
+    int Area() const override { return m_tableFlag; }
+    ISFListCtrlEvent* Handler() const override { return m_pEvent; }
 
     // Inspection.
     QList<int> RegisterRows(Register reg) const;
@@ -286,6 +306,7 @@ private:
     Qt::Alignment ColumnAlignment(int col) const;
 
     ISFListCtrlEvent* m_pEvent;
+    std::unique_ptr<ISFListRowBinder> m_pBinder;
     int m_currentRow;
     int m_tableFlag;
 

@@ -28,28 +28,24 @@ namespace {
 constexpr int CellMargin = 3;
 constexpr int CellSpacing = 3;
 constexpr unsigned long ComboStyle = 0x50010000ul;
-constexpr unsigned long PreviewStyle = 0x10010000ul;
-constexpr unsigned long PreviewTextColor = 0x00679Aul; // COLORREF of #9A6700, the accent readable on grey rows
+constexpr unsigned long ComboButtonStyle = 0x10010000ul;
+// COLORREF of #9A6700, the accent readable on grey rows.
+constexpr unsigned long ComboButtonTextColor = 0x00679Aul;
 
 // Sizes the pages give their controls where the caller names none.
-constexpr int PreviewWidth = 70;
-constexpr int PreviewHeight = 26;
+constexpr int ComboButtonWidth = 70;
+constexpr int ComboButtonHeight = 26;
 constexpr int CustomRateWidth = 50;
 constexpr int CustomRateHeight = 26;
 constexpr int SpinerWidth = 72;
 constexpr int SpinerHeight = 32;
 constexpr int CheckWidth = 40;
 constexpr int CheckHeight = 26;
-constexpr int BitrateWidth = 100;
+constexpr int RowEditWidth = 100;
 constexpr int EditHeight = 26;
 constexpr int DeleteWidth = 22;
 constexpr int DeleteHeight = 27;
 constexpr int ProgressHeight = 16;
-
-const wchar_t* const CompressionItems[] = { L"H.264", L"H.265", L"smart264", L"smart265" };
-const wchar_t* const ResolutionItems[] = { L"CIF", L"VGA", L"D1",  L"1MP", L"1.3MP", L"2MP",
-                                           L"3MP", L"4MP", L"5MP", L"6MP", L"8MP",   L"12MP" };
-const wchar_t* const FrameRateItems[] = { L"1", L"5", L"10", L"15", L"20", L"25", L"30", L"45", L"60" };
 
 // Create takes right and bottom one past the last pixel.
 tagRECT SizeRect(int w, int h)
@@ -64,7 +60,7 @@ void* Handle(QWidget* w)
 
 QString SkinUrl(const std::wstring& file)
 {
-    return QStringLiteral("url(") + SFSkinFilePath(file) + QLatin1Char(')');
+    return QStringLiteral("url(") + SFCssQuoted(SFSkinFilePath(file)) + QLatin1Char(')');
 }
 
 } // namespace
@@ -145,13 +141,13 @@ void CSFQTListCtrl::SetItemComboBox(int type, int row, int col, int, ImageComboB
                                     const wchar_t* placeholder, const wchar_t* extra,
                                     const std::wstring* items, ...)
 {
-    static const unsigned int bases[4] = { SF_LIST_ID_ENVIRONMENT, SF_LIST_ID_COMPRESSION,
-                                           SF_LIST_ID_RESOLUTION, SF_LIST_ID_FRAMERATE };
+    static const unsigned int bases[4] = { SF_LIST_ID_BUTTON_COMBO, SF_LIST_ID_FIRST_COMBO,
+                                           SF_LIST_ID_SECOND_COMBO, SF_LIST_ID_EDIT_COMBO };
     static const char* const names[4] = { "environment", "compression", "resolution",
                                           "framerate" };
     QMap<CSFComboBox*, int>* const regs[4] = { &m_environmentCombos, &m_compressionCombos,
                                                &m_resolutionCombos, &m_frameRateCombos };
-    if (type < 0 || type > 3)
+    if (type < 0 || type >= SF_LIST_COMBO_TYPE_COUNT)
         return;
     QWidget* page = NewCellPage(row, col);
     if (!page)
@@ -164,53 +160,45 @@ void CSFQTListCtrl::SetItemComboBox(int type, int row, int col, int, ImageComboB
     comboWidget->setMaximumSize(ComboWidth, ComboHeight);
     const unsigned int id = bases[type] + static_cast<unsigned int>(row);
     combo->Create(ComboStyle, SizeRect(ComboWidth, ComboHeight), Handle(page), id);
+    // Title, the binder's fixed entries, then what the caller brings.
     combo->AddString(placeholder ? placeholder : L"");
-    switch (type) {
-    case 0:
+    if (m_pBinder) {
+        for (const std::wstring& text : m_pBinder->ComboEntries(type))
+            combo->AddString(text.c_str());
+    }
+    if (type == SF_LIST_COMBO_WITH_BUTTON) {
         if (items) {
             for (int i = 1; i <= 3; ++i)
                 combo->AddString(items[i].c_str());
         }
         combo->EnableWindow(0);
-        break;
-    case 1:
-        for (const wchar_t* text : CompressionItems)
-            combo->AddString(text);
-        break;
-    case 2:
-        for (const wchar_t* text : ResolutionItems)
-            combo->AddString(text);
-        break;
-    default:
-        for (const wchar_t* text : FrameRateItems)
-            combo->AddString(text);
+    } else if (type == SF_LIST_COMBO_WITH_EDIT) {
         combo->AddString(extra ? extra : L"");
-        break;
     }
     combo->SetSkin(&style);
     AddToCellPage(page, comboWidget);
     Enrol(*regs[type], combo, row, col, id, KindCombo);
 
-    if (type == 0) {
-        CSFButton* preview = SFCreateButton(this);
-        if (QWidget* w = dynamic_cast<QWidget*>(preview)) {
+    if (type == SF_LIST_COMBO_WITH_BUTTON) {
+        CSFButton* button = SFCreateButton(this);
+        if (QWidget* w = dynamic_cast<QWidget*>(button)) {
             w->setObjectName(QStringLiteral("preview"));
-            preview->Create(items ? items[0].c_str() : L"", PreviewStyle,
-                            SizeRect(PreviewWidth, PreviewHeight), Handle(page), id);
+            button->Create(items ? items[0].c_str() : L"", ComboButtonStyle,
+                           SizeRect(ComboButtonWidth, ComboButtonHeight), Handle(page), id);
             w->setMinimumSize(50, 32);
             w->setMaximumSize(70, 32);
             // The button has no pictures: its word in the accent colour says
             // that it can be clicked.
-            preview->SetTextColor(PreviewTextColor);
-            preview->ShowWindow(0);
+            button->SetTextColor(ComboButtonTextColor);
+            button->ShowWindow(0);
             AddToCellPage(page, w);
-            if (QAbstractButton* button = qobject_cast<QAbstractButton*>(w))
-                connect(button, &QAbstractButton::clicked, this, &CSFQTListCtrl::OnEnvironment);
-            Enrol(m_environmentButtons, preview, row, col, id, KindButton);
+            if (QAbstractButton* clickable = qobject_cast<QAbstractButton*>(w))
+                connect(clickable, &QAbstractButton::clicked, this, &CSFQTListCtrl::OnEnvironment);
+            Enrol(m_environmentButtons, button, row, col, id, KindButton);
         } else {
-            SFDestroyControl(preview);
+            SFDestroyControl(button);
         }
-    } else if (type == 3) {
+    } else if (type == SF_LIST_COMBO_WITH_EDIT) {
         CSFEditCtrl* edit = SFCreateEditCtrl(this);
         if (QWidget* w = dynamic_cast<QWidget*>(edit)) {
             w->setObjectName(QStringLiteral("customrate"));
@@ -280,9 +268,9 @@ void CSFQTListCtrl::SetItemEditCtrl(int row, int col, int)
     QWidget* w = AdoptCellControl(edit, page, QStringLiteral("bitrate"));
     if (!w)
         return;
-    const unsigned int id = SF_LIST_ID_COMPRESSION + static_cast<unsigned int>(row);
-    edit->Create(SF_WS_VISIBLE, SizeRect(BitrateWidth, EditHeight), Handle(page), id, false);
-    w->setFixedSize(BitrateWidth, EditHeight);
+    const unsigned int id = SF_LIST_ID_FIRST_COMBO + static_cast<unsigned int>(row);
+    edit->Create(SF_WS_VISIBLE, SizeRect(RowEditWidth, EditHeight), Handle(page), id, false);
+    w->setFixedSize(RowEditWidth, EditHeight);
     edit->SetWindowTextW(L"0");
     AddToCellPage(page, w);
     Enrol(m_bitrateEdits, edit, row, col, id, KindEdit);
@@ -383,7 +371,7 @@ void CSFQTListCtrl::SetItemEdit(int row, int col)
     if (!w)
         return;
     const unsigned int id = static_cast<unsigned int>(row);
-    edit->Create(SF_WS_VISIBLE, SizeRect(BitrateWidth, EditHeight), Handle(page), id, false);
+    edit->Create(SF_WS_VISIBLE, SizeRect(RowEditWidth, EditHeight), Handle(page), id, false);
     w->setFixedHeight(EditHeight);
     edit->SetWindowTextW(text.c_str());
     AddToCellPage(page, w);

@@ -215,8 +215,8 @@ int CSFQTListCtrl::DeleteAllItems()
     ForgetAll();
     setRowCount(0);
     m_currentRow = -1;
-    if (m_pEvent)
-        m_pEvent->CalculatorResoult(0, 0.0);
+    // With no rows left the totals pass reports nothing but zeros.
+    UpdateBitrate(1, 0);
     return 1;
 }
 
@@ -333,21 +333,17 @@ void CSFQTListCtrl::RADIO_OnClicked(int checked, int, tagPOINT, void* sender)
     if (row < 0)
         return;
     m_currentRow = row;
-    if (IsRowReady())
-        UpdateBitrate(0, 0);
+    if (m_pBinder)
+        m_pBinder->CheckClicked(*this, row);
     if (m_pEvent)
         m_pEvent->Audio_OnClicked(row);
 }
 
-// The Preview button of a row opens the scene chosen in that row.
+// The button beside a row's combo.
 void CSFQTListCtrl::OnEnvironment()
 {
     CSFButton* button = dynamic_cast<CSFButton*>(sender());
     const int row = button ? RowOf(m_environmentButtons, button) : -1;
-    if (row < 0)
-        return;
-    CSFComboBox* combo = ControlOfRow(m_environmentCombos, row);
-    const int scene = combo ? combo->GetCurSel() : 0;
-    if (scene >= 1 && scene <= 3 && m_pEvent)
-        m_pEvent->ViewScene(scene);
+    if (row >= 0 && m_pBinder)
+        m_pBinder->ComboButtonClicked(*this, row);
 }

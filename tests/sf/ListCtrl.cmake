@@ -1,0 +1,4 @@
+tallix_add_test(sf_listctrl_tests
+  SOURCES ListCtrlTest.cpp
+  LIBS tallix_sf_test_support
+  QT)
