@@ -4,114 +4,130 @@
 #include "language/LangString.h"
 #include "sf/SFButton.h"
 #include "sf/SFComboBox.h"
+#include "sf/SFControlTypes.h"
 #include "sf/SFEditCtrl.h"
 #include "sf/SFFactory.h"
 #include "sf/SFNumSpiner.h"
 #include "sf/SFRadioBox.h"
 #include "sf/SFStatic.h"
+#include "sf/dialogs/SFSkinRecords.h"
+
+#include <QString>
+#include <QWidget>
+
+#include <array>
+#include <string>
+#include <type_traits>
 
 namespace {
 
-const unsigned long kStyleVisible = 0x10000000ul;
-const unsigned long kStyleVisibleTab = 0x10010000ul;
-const unsigned int kIdNone = static_cast<unsigned int>(-1);
+const unsigned long kStyleHidden = 0;
+const unsigned long kStyleVisible = SF_WS_VISIBLE;
+// Made visible and reached by the tab key.
+const unsigned long kStyleVisibleTab = SF_WS_VISIBLE | 0x00010000ul;
 const RECT kNoRect = { 0, 0, 0, 0 };
 
-const int kDefaultTextSize = 16;
+// Text alignment words of the labels.
+const unsigned int kAlignLeft = 0;
+const unsigned int kAlignRight = 2;
+const unsigned int kAlignLeftCentred = 4;
+const unsigned int kAlignRightCentred = 5;
+
+const int kTotalsTextSize = 18;
+const int kCaptionTextSize = 16;
+const int kDayTextSize = 14;
+const int kValueTextSize = 22;
+const unsigned int kColourBlack = 0;
+const unsigned int kColourRed = 0xFF;
+const unsigned int kColourGrey = 0x6B6B6B;
+const int kMaxRecordingDays = 3650;
 
 const wchar_t* const kCapacityItems[] = {
     L"32GB", L"64GB", L"128GB", L"1TB",  L"2TB",  L"3TB",  L"4TB",
     L"6TB",  L"8TB",  L"10TB",  L"12TB", L"14TB", L"16TB",
 };
+const wchar_t* const kPlanKeys[] = { L"24 hours per day", L"Customize(hours)" };
 const wchar_t* const kDayKeys[CCalculatorBottom::kDayCount] = {
     L"Sun.", L"Mon.", L"Tues.", L"Wed.", L"Thur.", L"Fri.", L"Sat.",
 };
+const wchar_t* const kBayItems[] = { L"8 bay", L"16 bay" };
 const wchar_t* const kDeviceTypes[] = { L"KTR6", L"MQS50", L"MQS70", L"MQS71" };
 const wchar_t* const kRaidLevelKeys[] = { L"RAID 1", L"RAID 5", L"RAID 6" };
+const wchar_t* const kUnitItems[] = { L"GB", L"TB" };
 const int kDiskSizeCount = 16;
 
-std::wstring Lang(const wchar_t* key)
+template <std::size_t N>
+void AddItems(CSFComboBox* pCombo, const wchar_t* const (&items)[N], bool bLookUp)
 {
-    return GetLangString(key, 0);
+    if (!pCombo)
+        return;
+    for (const wchar_t* pszItem : items)
+        pCombo->AddString(bLookUp ? LangText(pszItem).c_str() : pszItem);
 }
 
-// Image, seven source rectangles, six "tile" words.
-ImageComboBoxStyle ComboSkin(const wchar_t* image, const wchar_t* const (&slices)[7])
+// A stable object name where the id does not give one, and the words of the
+// control's caption for those that show none of their own.
+template <class Control>
+void Name(Control* pControl, const char* pszName, const wchar_t* pszCaptionKey)
 {
-    ImageComboBoxStyle style;
-    style.strImage = image;
-    std::wstring* rects[7] = { &style.strNormal,     &style.strHover,    &style.strPressedDown,
-                               &style.strPressedUp,  &style.strDisabled, &style.strSlice6,
-                               &style.strSlice7 };
-    for (int i = 0; i < 7; ++i)
-        *rects[i] = slices[i];
-    std::wstring* modes[6] = { &style.strNormalMode,      &style.strHoverMode,
-                               &style.strPressedUpMode,   &style.strPressedDownMode,
-                               &style.strDisabledMode,    &style.strSlice6Mode };
-    for (std::wstring* mode : modes)
-        *mode = L"tile";
+    QWidget* pWidget = dynamic_cast<QWidget*>(pControl);
+    if (!pWidget)
+        return;
+    if (pszName)
+        pWidget->setObjectName(QString::fromLatin1(pszName));
+    if (pszCaptionKey)
+        pWidget->setAccessibleName(QString::fromStdWString(LangText(pszCaptionKey)));
+}
+
+// The panel's combos are cut from one image each and tile every part.
+ImageComboBoxStyle TiledComboSkin(const wchar_t* pszImage, const std::array<std::wstring, 7>& slices)
+{
+    ImageComboBoxStyle style = SFImageComboBoxStyle(pszImage, slices);
+    std::wstring* modes[] = { &style.strNormalMode,    &style.strHoverMode,
+                              &style.strPressedUpMode, &style.strPressedDownMode,
+                              &style.strDisabledMode,  &style.strSlice6Mode };
+    for (std::wstring* pMode : modes)
+        *pMode = L"tile";
     return style;
 }
 
-ImageComboBoxStyle DefaultComboSkin()
-{
-    static const wchar_t* const slices[7] = { L"0,0,150,40",  L"0,0,150,40", L"0,48,150,40",
-                                              L"0,48,150,40", L"0,142,150,40", L"0,0,150,40",
-                                              L"0,48,150,40" };
-    return ComboSkin(L"ComboBox.png", slices);
-}
+// A label of the panel: made, then sized, coloured and aligned.
+struct LabelStyle {
+    int nTextSize;
+    unsigned int nAlign;
+    unsigned int nColour;
+    bool bColour;
+};
+const LabelStyle kCaptionStyle = { kCaptionTextSize, kAlignLeft, kColourBlack, false };
 
-ImageComboBoxStyle UnitComboSkin()
+CSFStatic* CreateLabel(ISFStaticEvent* pHandler, void* pParent, const wchar_t* pszText,
+                       unsigned long nStyle, const RECT& rc, unsigned int nID,
+                       const LabelStyle& style)
 {
-    static const wchar_t* const slices[7] = { L"0,0,83,35",  L"0,0,83,35", L"0,40,83,35",
-                                              L"0,40,83,35", L"0,124,83,35", L"0,0,83,35",
-                                              L"0,40,83,35" };
-    return ComboSkin(L"ComboBox_GBTB.png", slices);
-}
-
-ImageComboBoxStyle RecordPlanComboSkin()
-{
-    static const wchar_t* const slices[7] = { L"0,0,225,40",  L"0,0,225,40", L"0,28,225,40",
-                                              L"0,48,225,40", L"0,142,225,40", L"0,0,225,40",
-                                              L"0,48,225,40" };
-    return ComboSkin(L"ComboBox _150.png", slices);
-}
-
-ImageRadioBox ModeRadioSkin()
-{
-    ImageRadioBox skin;
-    skin.strCheckedNormal = L"radioBox_checked.png";
-    skin.strCheckedHover = L"radioBox_normal.png";
-    skin.strCheckedPressed = L"radioBox_checked.png";
-    skin.strUncheckedNormal = L"radioBox_normal.png";
-    skin.strUncheckedHover = L"radioBox_normal.png";
-    skin.strUncheckedPressed = L"radioBox_normal.png";
-    skin.strCheckedDisabled = L"radioBox_normal.png";
-    skin.strUncheckedDisabled = L"radioBox_normal.png";
-    return skin;
+    CSFStatic* pStatic = SFCreateStatic(pHandler);
+    if (!pStatic)
+        return nullptr;
+    pStatic->Create(pszText, nStyle, rc, pParent, nID);
+    pStatic->SetTextSize(style.nTextSize);
+    if (style.bColour)
+        pStatic->SetTextColor(style.nColour);
+    pStatic->SetTextAlignFlag(style.nAlign);
+    return pStatic;
 }
 
 } // namespace
 
+const unsigned int CCalculatorBottom::kModeRadioIds[kModeCount] = {
+    ID_RADIO_DISK_REQUIREMENT, ID_RADIO_RECORDING_DAY, ID_RADIO_RAID, ID_RADIO_RAID2,
+};
+
 CCalculatorBottom::CCalculatorBottom(void* pOwner)
     : m_nMode(MODE_DISK_REQUIREMENT), m_nChannels(0), m_dTotalBitrate(0.0), m_bCustomCapacity(0),
-      m_bCustomInTB(0), m_nRaidBays(0), m_nRaid2Bays(0), m_rcPage{ 0, 0, 0, 0 },
-      m_nReservedSize(0), m_pOwner(pOwner), m_pStaticTotal(nullptr),
-      m_pStaticChannelCount(nullptr), m_pStaticBitrate(nullptr),
-      m_pRadioDiskRequirement(nullptr), m_pRadioRecordingDay(nullptr), m_pRadioRaid(nullptr),
-      m_pRadioRaid2(nullptr), m_pStaticFirstRow(nullptr), m_pStaticRecordPlan(nullptr),
-      m_pStaticRaidBays(nullptr), m_pStaticRaidDisk(nullptr), m_pStaticRaidDevType(nullptr),
-      m_pStaticRaidLevel(nullptr), m_pStaticRaid2Bays(nullptr), m_pStaticRaid2Disk(nullptr),
-      m_pStaticRaid2DevType(nullptr), m_pStaticRaid2Level(nullptr), m_pStaticRaid2Days(nullptr),
-      m_pStaticDevicesTips(nullptr), m_pComboCapacity(nullptr), m_pComboCapacityUnit(nullptr),
-      m_pEditCustomCapacity(nullptr), m_pComboRecordPlan(nullptr), m_pStaticDay{},
-      m_pEditDayHours{}, m_pComboRaidDevType(nullptr), m_pComboRaidLevel(nullptr),
-      m_pComboRaidBays(nullptr), m_pComboRaidDisk(nullptr), m_pComboRaid2DevType(nullptr),
-      m_pComboRaid2Level(nullptr), m_pComboRaid2Bays(nullptr), m_pComboRaid2Disk(nullptr),
-      m_pSpinDays(nullptr), m_pSpinRaid2Days(nullptr), m_pBtnCalculate(nullptr),
-      m_pStaticResultCaption(nullptr), m_pStaticResultValue(nullptr),
-      m_pStaticRecordableSpace(nullptr), m_pStaticRecordableValue(nullptr), m_pBtnSpare(nullptr),
-      m_pStaticSpare(nullptr)
+      m_bCustomInTB(0), m_rcPage{ 0, 0, 0, 0 }, m_pOwner(pOwner), m_pStaticChannelCount(nullptr),
+      m_pStaticBitrate(nullptr), m_pModeRadios{}, m_pComboCapacity(nullptr),
+      m_pComboCapacityUnit(nullptr), m_pEditCustomCapacity(nullptr), m_pComboRecordPlan(nullptr),
+      m_pEditDayHours{}, m_pSpinDays(nullptr), m_pSpinRaid2Days(nullptr),
+      m_pStaticResultCaption(nullptr), m_pStaticResultValue(nullptr)
 {
     // The bay options and data disk tables are filled by m_raidTables itself.
 }
@@ -141,10 +157,26 @@ int CCalculatorBottom::OnCreate()
     CreateCaptions();
     CreateInputs();
     CreateResultArea();
-    PlaceHiddenRecordingDayInputs();
+    PlaceHiddenInputs();
     UpdateTotalsDisplay();
-    ShowDiskRequirementPage();
+    LayOut(MODE_DISK_REQUIREMENT);
+    Recalculate();
     return 1;
+}
+
+template <class Control>
+Control* CCalculatorBottom::Keep(Slot slot, Control* pControl)
+{
+    Placed& placed = m_placed[slot];
+    placed.pControl = pControl;
+    placed.pfnMove = [](void* p, RECT rc) { static_cast<Control*>(p)->MoveWindow(&rc); };
+    placed.pfnShow = [](void* p, int bShow) { static_cast<Control*>(p)->ShowWindow(bShow); };
+    if constexpr (std::is_base_of<CSFStatic, Control>::value) {
+        placed.pfnRetitle = [](void* p, const wchar_t* pszText) {
+            static_cast<Control*>(p)->SetStaticText(pszText);
+        };
+    }
+    return pControl;
 }
 
 void CCalculatorBottom::CreateTotalsAndRadios()
@@ -154,182 +186,188 @@ void CCalculatorBottom::CreateTotalsAndRadios()
 
     struct TotalLabel {
         CSFStatic** ppStatic;
-        std::wstring strText;
+        const wchar_t* pszKey;
         RECT rc;
         unsigned int nAlign;
+        const char* pszName;
     };
     const TotalLabel totals[] = {
-        { &m_pStaticTotal, Lang(L"Total"), { 0, 5, 70, 30 }, 5 },
-        { &m_pStaticChannelCount, L"", { 100, 5, w + 40, 30 }, 4 },
-        { &m_pStaticBitrate, L"", { 3 * w + 140, 5, 4 * w + 140, 30 }, 4 },
+        { nullptr, L"Total", { 0, 5, 70, 30 }, kAlignRightCentred, kNameTotal },
+        { &m_pStaticChannelCount, nullptr, { 100, 5, w + 40, 30 }, kAlignLeftCentred,
+          kNameChannelCount },
+        { &m_pStaticBitrate, nullptr, { 3 * w + 140, 5, 4 * w + 140, 30 }, kAlignLeftCentred,
+          kNameBitrate },
     };
     for (const TotalLabel& total : totals) {
-        CSFStatic* pStatic = SFCreateStatic(this);
-        *total.ppStatic = pStatic;
-        if (!pStatic)
-            continue;
-        pStatic->Create(total.strText.c_str(), kStyleVisible, total.rc, pParent, 0);
-        pStatic->SetTextSize(18);
-        pStatic->SetTextColor(0);
-        pStatic->SetTextAlignFlag(total.nAlign);
+        const std::wstring strText = total.pszKey ? LangText(total.pszKey) : std::wstring();
+        CSFStatic* pStatic =
+            CreateLabel(this, pParent, strText.c_str(), kStyleVisible, total.rc, 0,
+                        LabelStyle{ kTotalsTextSize, total.nAlign, kColourBlack, true });
+        if (total.ppStatic)
+            *total.ppStatic = pStatic;
+        Name(pStatic, total.pszName, nullptr);
     }
 
     struct ModeRadio {
-        CSFRadioBox** ppRadio;
         const wchar_t* pszKey;
-        unsigned int nID;
         int nTextOffset;
         RECT rc;
     };
-    const ModeRadio radios[] = {
-        { &m_pRadioDiskRequirement, L"Disk Requirement", ID_RADIO_DISK_REQUIREMENT, -150,
-          { 0, 45, 150, 74 } },
-        { &m_pRadioRecordingDay, L"Recording day", ID_RADIO_RECORDING_DAY, -160,
-          { 151, 45, 306, 74 } },
-        { &m_pRadioRaid, L"RAID Calculator", ID_RADIO_RAID, -160, { 304, 45, 462, 75 } },
-        { &m_pRadioRaid2, L"RAID Calculator2", ID_RADIO_RAID2, -160, { 454, 45, 612, 75 } },
+    const ModeRadio radios[kModeCount] = {
+        { L"Disk Requirement", -150, { 0, 45, 150, 74 } },
+        { L"Recording day", -160, { 151, 45, 306, 74 } },
+        { L"RAID Calculator", -160, { 304, 45, 462, 75 } },
+        { L"RAID Calculator2", -160, { 454, 45, 612, 75 } },
     };
-    ImageRadioBox skin = ModeRadioSkin();
-    for (const ModeRadio& radio : radios) {
+    ImageRadioBox skin = SFImageRadioBox(
+        L"radioBox_checked.png", L"radioBox_normal.png", L"radioBox_checked.png",
+        L"radioBox_normal.png", L"radioBox_normal.png", L"radioBox_normal.png",
+        L"radioBox_normal.png", L"radioBox_normal.png");
+    for (int nMode = 0; nMode < kModeCount; ++nMode) {
         CSFRadioBox* pRadio = SFCreateRadioBox(this);
-        *radio.ppRadio = pRadio;
+        m_pModeRadios[nMode] = pRadio;
         if (!pRadio)
             continue;
-        const std::wstring strText = Lang(radio.pszKey);
-        pRadio->Create(strText.c_str(), kStyleVisibleTab, radio.rc, pParent, radio.nID);
+        const ModeRadio& radio = radios[nMode];
+        const std::wstring strText = LangText(radio.pszKey);
+        pRadio->Create(strText.c_str(), kStyleVisibleTab, radio.rc, pParent, kModeRadioIds[nMode]);
         pRadio->SetSkin(&skin);
         pRadio->SetTextOffset(radio.nTextOffset);
         pRadio->SetToolTipText(strText.c_str());
     }
-    if (m_pRadioDiskRequirement)
-        m_pRadioDiskRequirement->SetCheck(1);
+    if (m_pModeRadios[MODE_DISK_REQUIREMENT])
+        m_pModeRadios[MODE_DISK_REQUIREMENT]->SetCheck(1);
 }
 
 void CCalculatorBottom::CreateCaptions()
 {
     void* pParent = GetUIWnd();
     struct Caption {
-        CSFStatic** ppStatic;
+        Slot slot;
         const wchar_t* pszKey;
+        const char* pszName;
     };
     const Caption captions[] = {
-        { &m_pStaticFirstRow, L"SD Card Capacity" }, { &m_pStaticRecordPlan, L"Record Plan" },
-        { &m_pStaticRaidBays, L"Device Drives" },    { &m_pStaticRaidDisk, L"HDD Capcity" },
-        { &m_pStaticRaidDevType, L"Dev Type" },      { &m_pStaticRaidLevel, L"RAID Volume" },
-        { &m_pStaticRaid2Bays, L"Device Drives" },   { &m_pStaticRaid2Disk, L"HDD Capcity" },
-        { &m_pStaticRaid2DevType, L"Dev Type" },     { &m_pStaticRaid2Level, L"RAID Volume" },
+        { SLOT_FIRST_ROW_CAPTION, L"SD Card Capacity", "calc_first_row" },
+        { SLOT_RECORD_PLAN_CAPTION, L"Record Plan", "calc_record_plan_caption" },
+        { SLOT_RAID_BAYS_CAPTION, L"Device Drives", "calc_raid_bays_caption" },
+        { SLOT_RAID_DISK_CAPTION, L"HDD Capcity", "calc_raid_disk_caption" },
+        { SLOT_RAID_DEV_TYPE_CAPTION, L"Dev Type", "calc_raid_dev_type_caption" },
+        { SLOT_RAID_LEVEL_CAPTION, L"RAID Volume", "calc_raid_level_caption" },
+        { SLOT_RAID2_BAYS_CAPTION, L"Device Drives", "calc_raid2_bays_caption" },
+        { SLOT_RAID2_DISK_CAPTION, L"HDD Capcity", "calc_raid2_disk_caption" },
+        { SLOT_RAID2_DEV_TYPE_CAPTION, L"Dev Type", "calc_raid2_dev_type_caption" },
+        { SLOT_RAID2_LEVEL_CAPTION, L"RAID Volume", "calc_raid2_level_caption" },
     };
     for (const Caption& caption : captions) {
-        CSFStatic* pStatic = SFCreateStatic(this);
-        *caption.ppStatic = pStatic;
-        if (!pStatic)
-            continue;
-        pStatic->Create(Lang(caption.pszKey).c_str(), kStyleVisible, kNoRect, pParent, 0);
-        pStatic->SetTextSize(kDefaultTextSize);
-        pStatic->SetTextAlignFlag(0);
+        CSFStatic* pStatic = CreateLabel(this, pParent, LangText(caption.pszKey).c_str(),
+                                         kStyleVisible, kNoRect, 0, kCaptionStyle);
+        Name(Keep(caption.slot, pStatic), caption.pszName, nullptr);
     }
 
-    m_pStaticDevicesTips = SFCreateStatic(this);
-    if (m_pStaticDevicesTips) {
-        m_pStaticDevicesTips->Create(Lang(L"Devices Tips").c_str(), kStyleVisible,
-                                     RECT{ 10, 227, 950, 260 }, pParent, 0);
-        m_pStaticDevicesTips->SetTextSize(kDefaultTextSize);
-        m_pStaticDevicesTips->SetTextColor(0xFF);
-        m_pStaticDevicesTips->SetTextAlignFlag(0);
-    }
+    CSFStatic* pTips =
+        CreateLabel(this, pParent, LangText(L"Devices Tips").c_str(), kStyleVisible,
+                    RECT{ 10, 227, 950, 260 }, 0,
+                    LabelStyle{ kCaptionTextSize, kAlignLeft, kColourRed, true });
+    Name(Keep(SLOT_DEVICES_TIPS, pTips), kNameDevicesTips, nullptr);
 }
 
 void CCalculatorBottom::CreateInputs()
 {
     void* pParent = GetUIWnd();
-    ImageComboBoxStyle comboSkin = DefaultComboSkin();
-    auto createCombo = [&](unsigned int nID, ImageComboBoxStyle& skin) {
+    ImageComboBoxStyle comboSkin =
+        TiledComboSkin(L"ComboBox.png", { L"0,0,150,40", L"0,0,150,40", L"0,48,150,40",
+                                          L"0,48,150,40", L"0,142,150,40", L"0,0,150,40",
+                                          L"0,48,150,40" });
+    auto createCombo = [&](Slot slot, unsigned int nID, ImageComboBoxStyle& skin,
+                           const wchar_t* pszCaptionKey) {
         CSFComboBox* pCombo = SFCreateComboBox(this);
         if (pCombo) {
             pCombo->Create(kStyleVisible, kNoRect, pParent, nID);
             pCombo->SetSkin(&skin);
         }
-        return pCombo;
-    };
-    auto addItems = [](CSFComboBox* pCombo, const wchar_t* const* ppItems, int nCount,
-                       bool bLookUp) {
-        if (!pCombo)
-            return;
-        for (int i = 0; i < nCount; ++i)
-            pCombo->AddString(bLookUp ? Lang(ppItems[i]).c_str() : ppItems[i]);
+        Name(pCombo, nullptr, pszCaptionKey);
+        return Keep(slot, pCombo);
     };
 
-    m_pComboCapacity = createCombo(ID_COMBO_CAPACITY, comboSkin);
-    addItems(m_pComboCapacity, kCapacityItems, 13, false);
+    m_pComboCapacity =
+        createCombo(SLOT_COMBO_CAPACITY, ID_COMBO_CAPACITY, comboSkin, L"Storage Capacity");
+    AddItems(m_pComboCapacity, kCapacityItems, false);
     if (m_pComboCapacity)
-        m_pComboCapacity->AddString(Lang(L"Customize").c_str());
+        m_pComboCapacity->AddString(LangText(L"Customize").c_str());
 
-    ImageComboBoxStyle planSkin = RecordPlanComboSkin();
-    m_pComboRecordPlan = createCombo(ID_COMBO_RECORD_PLAN, planSkin);
-    const wchar_t* const planKeys[] = { L"24 hours per day", L"Customize(hours)" };
-    addItems(m_pComboRecordPlan, planKeys, 2, true);
+    ImageComboBoxStyle planSkin =
+        TiledComboSkin(L"ComboBox _150.png", { L"0,0,225,40", L"0,0,225,40", L"0,28,225,40",
+                                               L"0,48,225,40", L"0,142,225,40", L"0,0,225,40",
+                                               L"0,48,225,40" });
+    m_pComboRecordPlan =
+        createCombo(SLOT_COMBO_RECORD_PLAN, ID_COMBO_RECORD_PLAN, planSkin, L"Record Plan");
+    AddItems(m_pComboRecordPlan, kPlanKeys, true);
 
     for (int i = 0; i < kDayCount; ++i) {
-        m_pStaticDay[i] = SFCreateStatic(this);
-        if (m_pStaticDay[i]) {
-            m_pStaticDay[i]->Create(Lang(kDayKeys[i]).c_str(), kStyleVisible, kNoRect, pParent, 0);
-            m_pStaticDay[i]->SetTextSize(14);
-            m_pStaticDay[i]->SetTextAlignFlag(2);
-        }
-        m_pEditDayHours[i] = SFCreateEditCtrl(this);
-        if (m_pEditDayHours[i]) {
-            m_pEditDayHours[i]->Create(kStyleVisible, kNoRect, pParent,
-                                       ID_EDIT_DAY_HOURS_FIRST + static_cast<unsigned int>(i),
-                                       false);
-            m_pEditDayHours[i]->SetRegExp();
-            m_pEditDayHours[i]->SetWindowTextW(L"24");
-        }
+        CSFStatic* pDay = CreateLabel(this, pParent, LangText(kDayKeys[i]).c_str(), kStyleVisible,
+                                      kNoRect, 0, LabelStyle{ kDayTextSize, kAlignRight, 0, false });
+        Keep(static_cast<Slot>(SLOT_DAY_LABEL_FIRST + i), pDay);
+        Name(pDay, (kNameDayPrefix + std::to_string(i)).c_str(), nullptr);
+        CSFEditCtrl* pEdit = SFCreateEditCtrl(this);
+        m_pEditDayHours[i] = Keep(static_cast<Slot>(SLOT_DAY_HOURS_FIRST + i), pEdit);
+        if (!pEdit)
+            continue;
+        pEdit->Create(kStyleVisible, kNoRect, pParent,
+                      ID_EDIT_DAY_HOURS_FIRST + static_cast<unsigned int>(i), false);
+        pEdit->SetRegExp();
+        pEdit->SetWindowTextW(kDayHoursFull);
+        Name(pEdit, nullptr, kDayKeys[i]);
     }
 
-    m_pEditCustomCapacity = SFCreateEditCtrl(this);
+    m_pEditCustomCapacity = Keep(SLOT_EDIT_CUSTOM_CAPACITY, SFCreateEditCtrl(this));
     if (m_pEditCustomCapacity) {
         m_pEditCustomCapacity->Create(kStyleVisible, kNoRect, pParent, ID_EDIT_CUSTOM_CAPACITY,
                                       false);
         m_pEditCustomCapacity->SetRegExp();
+        Name(m_pEditCustomCapacity, nullptr, L"Customize");
     }
 
-    const wchar_t* const bayItems[] = { L"8 bay", L"16 bay" };
-    std::wstring diskTexts[kDiskSizeCount];
-    const wchar_t* diskItems[kDiskSizeCount];
-    for (int i = 0; i < kDiskSizeCount; ++i) {
-        diskTexts[i] = std::to_wstring(i + 1) + L" TB";
-        diskItems[i] = diskTexts[i].c_str();
-    }
-    auto createRaidCombos = [&](bool bRaid2) {
-        CSFComboBox*& pBays = bRaid2 ? m_pComboRaid2Bays : m_pComboRaidBays;
-        CSFComboBox*& pLevel = bRaid2 ? m_pComboRaid2Level : m_pComboRaidLevel;
-        CSFComboBox*& pDisk = bRaid2 ? m_pComboRaid2Disk : m_pComboRaidDisk;
-        CSFComboBox*& pDevType = bRaid2 ? m_pComboRaid2DevType : m_pComboRaidDevType;
-        pBays = createCombo(bRaid2 ? ID_COMBO_RAID2_BAYS : ID_COMBO_RAID_BAYS, comboSkin);
-        addItems(pBays, bayItems, 2, false);
-        pLevel = createCombo(bRaid2 ? ID_COMBO_RAID2_LEVEL : ID_COMBO_RAID_LEVEL, comboSkin);
-        addItems(pLevel, kRaidLevelKeys, 3, true);
-        pDisk = createCombo(ID_COMBO_RAID_DISK, comboSkin);
-        addItems(pDisk, diskItems, kDiskSizeCount, false);
-        pDevType = createCombo(bRaid2 ? ID_COMBO_RAID2_DEV_TYPE : ID_COMBO_RAID_DEV_TYPE, comboSkin);
-        addItems(pDevType, kDeviceTypes, 4, false);
+    auto createRaidCombos = [&](RaidInputs& raid, bool bRaid2) {
+        std::wstring diskTexts[kDiskSizeCount];
+        const wchar_t* diskItems[kDiskSizeCount];
+        for (int i = 0; i < kDiskSizeCount; ++i) {
+            diskTexts[i] = std::to_wstring(i + 1) + L" TB";
+            diskItems[i] = diskTexts[i].c_str();
+        }
+        raid.pBays = createCombo(bRaid2 ? SLOT_RAID2_BAYS : SLOT_RAID_BAYS,
+                                 bRaid2 ? ID_COMBO_RAID2_BAYS : ID_COMBO_RAID_BAYS, comboSkin,
+                                 L"Device Drives");
+        AddItems(raid.pBays, kBayItems, false);
+        raid.pLevel = createCombo(bRaid2 ? SLOT_RAID2_LEVEL : SLOT_RAID_LEVEL,
+                                  bRaid2 ? ID_COMBO_RAID2_LEVEL : ID_COMBO_RAID_LEVEL, comboSkin,
+                                  L"RAID Volume");
+        AddItems(raid.pLevel, kRaidLevelKeys, true);
+        raid.pDisk = createCombo(bRaid2 ? SLOT_RAID2_DISK : SLOT_RAID_DISK, ID_COMBO_RAID_DISK,
+                                 comboSkin, L"HDD Capcity");
+        AddItems(raid.pDisk, diskItems, false);
+        raid.pDevType = createCombo(bRaid2 ? SLOT_RAID2_DEV_TYPE : SLOT_RAID_DEV_TYPE,
+                                    bRaid2 ? ID_COMBO_RAID2_DEV_TYPE : ID_COMBO_RAID_DEV_TYPE,
+                                    comboSkin, L"Dev Type");
+        AddItems(raid.pDevType, kDeviceTypes, false);
     };
-    createRaidCombos(false);
+    createRaidCombos(m_raid, false);
 
-    m_pStaticRaid2Days = SFCreateStatic(this);
-    if (m_pStaticRaid2Days) {
-        m_pStaticRaid2Days->Create(Lang(L"Device Drives").c_str(), kStyleVisible, kNoRect,
-                                   pParent, 0);
-        m_pStaticRaid2Days->SetTextSize(kDefaultTextSize);
-        m_pStaticRaid2Days->SetTextAlignFlag(0);
-    }
+    // Retitled "Recording Day" when its mode shows.
+    CSFStatic* pRaid2Days = CreateLabel(this, pParent, LangText(L"Device Drives").c_str(),
+                                        kStyleVisible, kNoRect, 0, kCaptionStyle);
+    Name(Keep(SLOT_RAID2_DAYS_CAPTION, pRaid2Days), "calc_raid2_days_caption", nullptr);
 
-    createRaidCombos(true);
+    createRaidCombos(m_raid2, true);
+    Name(m_raid2.pDisk, kNameRaid2Disk, nullptr);
 
-    ImageComboBoxStyle unitSkin = UnitComboSkin();
-    m_pComboCapacityUnit = createCombo(ID_COMBO_CAPACITY_UNIT, unitSkin);
-    const wchar_t* const unitItems[] = { L"GB", L"TB" };
-    addItems(m_pComboCapacityUnit, unitItems, 2, false);
+    ImageComboBoxStyle unitSkin =
+        TiledComboSkin(L"ComboBox_GBTB.png", { L"0,0,83,35", L"0,0,83,35", L"0,40,83,35",
+                                               L"0,40,83,35", L"0,124,83,35", L"0,0,83,35",
+                                               L"0,40,83,35" });
+    m_pComboCapacityUnit = createCombo(SLOT_COMBO_CAPACITY_UNIT, ID_COMBO_CAPACITY_UNIT, unitSkin,
+                                       L"Storage Capacity");
+    AddItems(m_pComboCapacityUnit, kUnitItems, false);
 }
 
 void CCalculatorBottom::CreateResultArea()
@@ -337,67 +375,67 @@ void CCalculatorBottom::CreateResultArea()
     void* pParent = GetUIWnd();
 
     // Left over from an earlier design: made, never shown.
-    m_pBtnSpare = SFCreateButton(this);
-    if (m_pBtnSpare)
-        m_pBtnSpare->Create(L"", 0, kNoRect, pParent, 0);
-    m_pStaticSpare = SFCreateStatic(this);
-    if (m_pStaticSpare) {
-        m_pStaticSpare->Create(L"", 0, kNoRect, pParent, kIdNone);
-        m_pStaticSpare->SetTextSize(kDefaultTextSize);
-        m_pStaticSpare->SetTextAlignFlag(0);
-    }
+    CSFButton* pSpareButton = SFCreateButton(this);
+    if (pSpareButton)
+        pSpareButton->Create(L"", kStyleHidden, kNoRect, pParent, 0);
+    Name(pSpareButton, "calc_spare_button", nullptr);
+    CSFStatic* pSpareLabel =
+        CreateLabel(this, pParent, L"", kStyleHidden, kNoRect, ID_NONE, kCaptionStyle);
+    Name(pSpareLabel, "calc_spare_label", nullptr);
 
-    m_pBtnCalculate = SFCreateButton(this);
-    if (m_pBtnCalculate) {
-        m_pBtnCalculate->Create(L"", kStyleVisible, kNoRect, pParent, ID_BTN_CALCULATE);
+    CSFButton* pCalculate = Keep(SLOT_CALCULATE, SFCreateButton(this));
+    if (pCalculate) {
+        pCalculate->Create(L"", kStyleVisible, kNoRect, pParent, ID_BTN_CALCULATE);
         ImageButtonStyle skin;
         skin.strNormal = L"calculator_nor.png";
         skin.strHover = L"calculator_hover.png";
         skin.strPressed = L"calculator_push.png";
         skin.strDisabled = L"calculator_dis.png";
-        m_pBtnCalculate->SetSkin(&skin);
+        pCalculate->SetSkin(&skin);
+        Name(pCalculate, nullptr, L"Calculate");
     }
 
-    m_pStaticResultCaption = SFCreateStatic(this);
+    m_pStaticResultCaption = Keep(SLOT_RESULT_CAPTION, SFCreateStatic(this));
     if (m_pStaticResultCaption) {
-        m_pStaticResultCaption->Create(L"", kStyleVisibleTab, kNoRect, pParent, kIdNone);
-        m_pStaticResultCaption->SetTextAlignFlag(4);
-        m_pStaticResultCaption->SetTextSize(16);
+        m_pStaticResultCaption->Create(L"", kStyleVisibleTab, kNoRect, pParent, ID_NONE);
+        m_pStaticResultCaption->SetTextAlignFlag(kAlignLeftCentred);
+        m_pStaticResultCaption->SetTextSize(kCaptionTextSize);
+        Name(m_pStaticResultCaption, kNameResultCaption, nullptr);
     }
-    m_pStaticResultValue = SFCreateStatic(this);
+    m_pStaticResultValue = Keep(SLOT_RESULT_VALUE, SFCreateStatic(this));
     if (m_pStaticResultValue) {
-        m_pStaticResultValue->Create(L"", kStyleVisibleTab, kNoRect, pParent, kIdNone);
-        m_pStaticResultValue->SetTextAlignFlag(4);
-        m_pStaticResultValue->SetTextSize(22);
+        m_pStaticResultValue->Create(L"", kStyleVisibleTab, kNoRect, pParent, ID_NONE);
+        m_pStaticResultValue->SetTextAlignFlag(kAlignLeftCentred);
+        m_pStaticResultValue->SetTextSize(kValueTextSize);
         m_pStaticResultValue->SetTextBold(1);
+        Name(m_pStaticResultValue, kNameResultValue, nullptr);
     }
 
     ImageNumSpinerStyle spinSkin;
     spinSkin.strFrame = L"bg_time_noal.png";
-    CSFNumSpiner** spinners[] = { &m_pSpinDays, &m_pSpinRaid2Days };
-    for (CSFNumSpiner** ppSpin : spinners) {
-        *ppSpin = SFCreateNumSpiner(this);
-        if (!*ppSpin)
-            continue;
-        (*ppSpin)->Create(L"", kNoRect, pParent, ID_SPIN_DAYS);
-        (*ppSpin)->SetRange(1, 3650);
-        (*ppSpin)->SetCircleStep(1);
-        (*ppSpin)->SetSkin(&spinSkin);
-        (*ppSpin)->SetCurrentNum(1);
-    }
+    auto createSpinner = [&](Slot slot) {
+        CSFNumSpiner* pSpin = Keep(slot, SFCreateNumSpiner(this));
+        if (pSpin) {
+            pSpin->Create(L"", kNoRect, pParent, ID_SPIN_DAYS);
+            pSpin->SetRange(1, kMaxRecordingDays);
+            pSpin->SetCircleStep(1);
+            pSpin->SetSkin(&spinSkin);
+            pSpin->SetCurrentNum(1);
+        }
+        Name(pSpin, nullptr, L"Recording Day");
+        return pSpin;
+    };
+    m_pSpinDays = createSpinner(SLOT_SPIN_DAYS);
+    m_pSpinRaid2Days = createSpinner(SLOT_RAID2_DAYS);
+    Name(m_pSpinRaid2Days, kNameRaid2Days, nullptr);
 
-    CSFStatic** recordable[] = { &m_pStaticRecordableSpace, &m_pStaticRecordableValue };
-    const std::wstring texts[] = { Lang(L"Recordable  Space"), L"" };
-    for (int i = 0; i < 2; ++i) {
-        CSFStatic* pStatic = SFCreateStatic(this);
-        *recordable[i] = pStatic;
-        if (!pStatic)
-            continue;
-        pStatic->Create(texts[i].c_str(), kStyleVisible, kNoRect, pParent, 0);
-        pStatic->SetTextSize(16);
-        pStatic->SetTextColor(0x6B6B6B);
-        pStatic->SetTextAlignFlag(2);
-    }
+    // Made for a recordable space line that no mode shows.
+    const LabelStyle recordable = { kCaptionTextSize, kAlignRight, kColourGrey, true };
+    Name(CreateLabel(this, pParent, LangText(L"Recordable  Space").c_str(), kStyleHidden, kNoRect,
+                     0, recordable),
+         "calc_recordable_space", nullptr);
+    Name(CreateLabel(this, pParent, L"", kStyleHidden, kNoRect, 0, recordable),
+         "calc_recordable_value", nullptr);
 }
 
 void CCalculatorBottom::SetTotals(int nChannels, double dTotalBitrate)

@@ -2,6 +2,8 @@
 // The calculator panel below the channel table: four modes, one answer at a
 // time, from the totals the channel page reports and the panel's own inputs.
 
+#include "calculator/engine/RaidTables.h"
+#include "platform/WinTypes.h"
 #include "sf/ISFButtonEvent.h"
 #include "sf/ISFCheckBoxEvent.h"
 #include "sf/ISFComboBoxEvent.h"
@@ -10,8 +12,6 @@
 #include "sf/ISFRadioBoxEvent.h"
 #include "sf/ISFStaticEvent.h"
 #include "sf/ISFViewEvent.h"
-#include "calculator/engine/RaidTables.h"
-#include "platform/WinTypes.h"
 
 #include <string>
 
@@ -33,8 +33,10 @@ class CCalculatorBottom : public ISFViewEvent,
 public:
     // Modes, by radio.
     enum { MODE_DISK_REQUIREMENT = 0, MODE_RECORDING_DAY = 1, MODE_RAID = 2, MODE_RAID2 = 3 };
+    static const int kModeCount = 4;
 
-    // Control ids.
+    // Control ids. A control with a unique id is found by "<kind>_<id>"
+    // (radio, combo, edit, spinner, button); the others by the names below.
     enum : unsigned int {
         ID_RADIO_DISK_REQUIREMENT = 0x808,
         ID_RADIO_RECORDING_DAY = 0x806,
@@ -44,7 +46,7 @@ public:
         ID_EDIT_CUSTOM_CAPACITY = 0x811,
         ID_COMBO_CAPACITY_UNIT = 0x814,
         ID_COMBO_RECORD_PLAN = 0x815,
-        ID_EDIT_DAY_HOURS_FIRST = 0x816,  // Sunday; Saturday is 0x81C
+        ID_EDIT_DAY_HOURS_FIRST = 0x816,  // Sunday; Saturday is the last
         ID_EDIT_DAY_HOURS_LAST = 0x81C,
         ID_COMBO_RAID_DISK = 0xE43,  // both RAID modes
         ID_COMBO_RAID_DEV_TYPE = 0xE4A,
@@ -55,9 +57,24 @@ public:
         ID_COMBO_RAID2_BAYS = 0xE4F,
         ID_BTN_CALCULATE = 0xE49,
         ID_SPIN_DAYS = 0x7EB,  // both day spinners
+        ID_NONE = 0xFFFFFFFFu,
     };
 
     static const int kDayCount = 7;
+    // The radio of each mode.
+    static const unsigned int kModeRadioIds[kModeCount];
+
+    // Object names of the controls that share their id with others.
+    static constexpr const char* kNameTotal = "calc_total";
+    static constexpr const char* kNameChannelCount = "calc_channel_count";
+    static constexpr const char* kNameBitrate = "calc_bitrate";
+    static constexpr const char* kNameResultCaption = "calc_result_caption";
+    static constexpr const char* kNameResultValue = "calc_result_value";
+    static constexpr const char* kNameDevicesTips = "calc_devices_tips";
+    static constexpr const char* kNameRaid2Disk = "calc_raid2_disk";
+    static constexpr const char* kNameRaid2Days = "calc_raid2_days";
+    // Followed by the day's number, 0 for Sunday.
+    static constexpr const char* kNameDayPrefix = "calc_day_";
 
     explicit CCalculatorBottom(void* pOwner);
     ~CCalculatorBottom() override;
@@ -91,100 +108,139 @@ public:
     // Reads the inputs of the current mode and writes caption and value.
     void Recalculate();
 
-    void UpdateTotalsDisplay();
-
-    void ShowDiskRequirementPage();
-    void ShowRecordingDayPage();
-    void ShowRaidCalculatorPage();
-    void ShowRaidCalculator2Page();
-    void MoveResultArea(bool bRaid2);
-    CSFRadioBox* FindModeRadio(int nID) const;
-
-    int LookupBayCount(int nDevice, int nLevel, unsigned nIndex) const;
-    int LookupDataDisks(int nDevice, int nLevel, int nBayIndex) const;
-    void RebuildBayCombo(int nDevice, int nLevel, bool bRaid2);
-    void FixRaid2ValueRect();
-
     int GetMode() const { return m_nMode; }
     int GetChannels() const { return m_nChannels; }
     double GetTotalBitrate() const { return m_dTotalBitrate; }
 
 private:
+    // Every control that the layout moves, shows or hides.
+    enum Slot : int {
+        SLOT_FIRST_ROW_CAPTION,
+        SLOT_SPIN_DAYS,
+        SLOT_CALCULATE,
+        SLOT_RESULT_CAPTION,
+        SLOT_RESULT_VALUE,
+        SLOT_DEVICES_TIPS,
+        SLOT_COMBO_CAPACITY,
+        SLOT_EDIT_CUSTOM_CAPACITY,
+        SLOT_COMBO_CAPACITY_UNIT,
+        SLOT_RECORD_PLAN_CAPTION,
+        SLOT_COMBO_RECORD_PLAN,
+        SLOT_DAY_LABEL_FIRST,
+        SLOT_DAY_HOURS_FIRST = SLOT_DAY_LABEL_FIRST + kDayCount,
+        SLOT_RAID_DEV_TYPE_CAPTION = SLOT_DAY_HOURS_FIRST + kDayCount,
+        SLOT_RAID_DEV_TYPE,
+        SLOT_RAID_DISK_CAPTION,
+        SLOT_RAID_DISK,
+        SLOT_RAID_LEVEL_CAPTION,
+        SLOT_RAID_LEVEL,
+        SLOT_RAID_BAYS_CAPTION,
+        SLOT_RAID_BAYS,
+        SLOT_RAID2_DAYS_CAPTION,
+        SLOT_RAID2_DAYS,
+        SLOT_RAID2_DEV_TYPE_CAPTION,
+        SLOT_RAID2_DEV_TYPE,
+        SLOT_RAID2_DISK_CAPTION,
+        SLOT_RAID2_DISK,
+        SLOT_RAID2_LEVEL_CAPTION,
+        SLOT_RAID2_LEVEL,
+        SLOT_RAID2_BAYS_CAPTION,
+        SLOT_RAID2_BAYS,
+        SLOT_COUNT
+    };
+    // What a day's edit starts with, and falls back to on a bad entry.
+    static constexpr const wchar_t* kDayHoursFull = L"24";
+
+    // When a control of the layout shows.
+    enum Shown : unsigned char {
+        SHOWN,            // placed and shown in its modes, hidden in the others
+        SHOWN_IF_CUSTOM,  // ... while the capacity list stands on its last entry
+        SHOWN_IF_WEEKLY,  // ... while the record plan goes by the hour
+        SHOWN_IN_PLACE,   // shown in its modes where it was made, hidden in the others
+        ALWAYS_SHOWN,     // only moved
+    };
+    struct Placement {
+        int slot;
+        unsigned modes;
+        Shown shown;
+        RECT rc;
+        // A caption retitled after the move, so that a longer translation widens it.
+        const wchar_t* pszCaptionKey;
+    };
+    static const Placement kLayout[];
+
+    // Any control, as the layout handles it.
+    struct Placed {
+        void* pControl = nullptr;
+        void (*pfnMove)(void*, RECT) = nullptr;
+        void (*pfnShow)(void*, int) = nullptr;
+        void (*pfnRetitle)(void*, const wchar_t*) = nullptr;
+    };
+
+    // The four choices of a RAID mode; each mode remembers its own bay count.
+    struct RaidInputs {
+        CSFComboBox* pDevType = nullptr;
+        CSFComboBox* pLevel = nullptr;
+        CSFComboBox* pBays = nullptr;
+        CSFComboBox* pDisk = nullptr;
+        int nBays = 0;
+    };
+
     void CreateTotalsAndRadios();
     void CreateCaptions();
     void CreateInputs();
+    void CreateRaidCombos(RaidInputs& raid, bool bRaid2);
     void CreateResultArea();
+    template <class Control>
+    Control* Keep(Slot slot, Control* pControl);
 
-    // Every input and caption of the four modes.
-    void HideAllInputs();
-    void ShowDayPairs(int bShow);
-    void ShowResultLabels();
-    void PlaceHiddenRecordingDayInputs();
+    // The one reader of the layout table.
+    void LayOut(int nMode);
+    // The inputs of the recording days that their choices show and hide.
+    void PlaceHiddenInputs();
+    void ShowWhere(Shown shown, bool bShow);
+    RECT LaidOutRect(Slot slot, int nMode) const;
+    void FixRaid2ValueRect();
+    CSFRadioBox* FindModeRadio(int nID) const;
+
+    void UpdateTotalsDisplay();
+    void RebuildBayCombo(RaidInputs& raid, int nDevice, int nLevel);
+    RaidInputs* FindRaidInputs(unsigned int nID);
+    static int Selection(const CSFComboBox* pCombo);
 
     void RecalculateDiskRequirement();
     void RecalculateRecordingDays();
     void RecalculateRaidCapacity();
     void RecalculateRequestDevice();
-    void ShowResult(const std::wstring& strCaption, const std::wstring& strValue, bool bTwinkle);
+    void ShowResult(const wchar_t* pszCaptionKey, const std::wstring& strValue, bool bTwinkle);
 
     void OnCustomCapacityChanged(const wchar_t* pszText);
     void OnCapacityUnitChanged(int nIndex);
     void OnDayHoursChanged(int nDay, const wchar_t* pszText);
 
-public:
     int m_nMode;
     int m_nChannels;
     double m_dTotalBitrate;
     unsigned char m_bCustomCapacity;
     unsigned char m_bCustomInTB;
-    int m_nRaidBays;
-    int m_nRaid2Bays;
     // Bay options and data disks per device type and RAID level.
     CRaidTables m_raidTables;
     RECT m_rcPage;
-    long long m_nReservedSize;
     void* m_pOwner;
 
-    CSFStatic* m_pStaticTotal;
+    Placed m_placed[SLOT_COUNT];
     CSFStatic* m_pStaticChannelCount;
     CSFStatic* m_pStaticBitrate;
-    CSFRadioBox* m_pRadioDiskRequirement;
-    CSFRadioBox* m_pRadioRecordingDay;
-    CSFRadioBox* m_pRadioRaid;
-    CSFRadioBox* m_pRadioRaid2;
-    CSFStatic* m_pStaticFirstRow;
-    CSFStatic* m_pStaticRecordPlan;
-    CSFStatic* m_pStaticRaidBays;
-    CSFStatic* m_pStaticRaidDisk;
-    CSFStatic* m_pStaticRaidDevType;
-    CSFStatic* m_pStaticRaidLevel;
-    CSFStatic* m_pStaticRaid2Bays;
-    CSFStatic* m_pStaticRaid2Disk;
-    CSFStatic* m_pStaticRaid2DevType;
-    CSFStatic* m_pStaticRaid2Level;
-    CSFStatic* m_pStaticRaid2Days;
-    CSFStatic* m_pStaticDevicesTips;
+    CSFRadioBox* m_pModeRadios[kModeCount];
     CSFComboBox* m_pComboCapacity;
     CSFComboBox* m_pComboCapacityUnit;
     CSFEditCtrl* m_pEditCustomCapacity;
     CSFComboBox* m_pComboRecordPlan;
-    CSFStatic* m_pStaticDay[kDayCount];
     CSFEditCtrl* m_pEditDayHours[kDayCount];
-    CSFComboBox* m_pComboRaidDevType;
-    CSFComboBox* m_pComboRaidLevel;
-    CSFComboBox* m_pComboRaidBays;
-    CSFComboBox* m_pComboRaidDisk;
-    CSFComboBox* m_pComboRaid2DevType;
-    CSFComboBox* m_pComboRaid2Level;
-    CSFComboBox* m_pComboRaid2Bays;
-    CSFComboBox* m_pComboRaid2Disk;
+    RaidInputs m_raid;
+    RaidInputs m_raid2;
     CSFNumSpiner* m_pSpinDays;
     CSFNumSpiner* m_pSpinRaid2Days;
-    CSFButton* m_pBtnCalculate;
     CSFStatic* m_pStaticResultCaption;
     CSFStatic* m_pStaticResultValue;
-    CSFStatic* m_pStaticRecordableSpace;
-    CSFStatic* m_pStaticRecordableValue;
-    CSFButton* m_pBtnSpare;
-    CSFStatic* m_pStaticSpare;
 };

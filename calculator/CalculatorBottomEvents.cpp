@@ -2,14 +2,15 @@
 
 #include "calculator/CalculatorBottom.h"
 
+#include "language/TextConvert.h"
+#include "platform/WinWideString.h"
 #include "sf/SFComboBox.h"
 #include "sf/SFEditCtrl.h"
 #include "sf/SFRadioBox.h"
-#include "language/TextConvert.h"
-#include "platform/WinWideString.h"
 
 #include <cwchar>
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -19,6 +20,8 @@ const int kDigitLimit = 9;
 const std::size_t kMaxTBChars = 3;
 const std::size_t kMaxGBChars = 5;
 const int kMaxTB = 999;
+const wchar_t* const kMaxTBText = L"999";
+const wchar_t* const kNoCapacityText = L"0";
 // Only the first characters of a day's hours count.
 const std::size_t kDayHoursChars = 4;
 const long kHoursPerDay = 24;
@@ -45,93 +48,98 @@ void CCalculatorBottom::RADIO_OnClicked(int bChecked, int nID, tagPOINT, void*)
             pRadio->SetCheck(1);
         return;
     }
-    CSFRadioBox* radios[] = { m_pRadioDiskRequirement, m_pRadioRecordingDay, m_pRadioRaid,
-                              m_pRadioRaid2 };
-    for (CSFRadioBox* pEach : radios) {
+    for (CSFRadioBox* pEach : m_pModeRadios) {
         if (pEach)
             pEach->SetCheck(0);
     }
     if (pRadio)
         pRadio->SetCheck(1);
 
+    for (int nMode = 0; nMode < kModeCount; ++nMode) {
+        if (kModeRadioIds[nMode] == static_cast<unsigned int>(nID)) {
+            m_nMode = nMode;
+            LayOut(nMode);
+            Recalculate();
+        }
+    }
+}
+
+int CCalculatorBottom::Selection(const CSFComboBox* pCombo)
+{
+    return pCombo ? pCombo->GetCurSel() : -1;
+}
+
+CCalculatorBottom::RaidInputs* CCalculatorBottom::FindRaidInputs(unsigned int nID)
+{
     switch (nID) {
-    case ID_RADIO_DISK_REQUIREMENT:
-        m_nMode = MODE_DISK_REQUIREMENT;
-        ShowDiskRequirementPage();
-        break;
-    case ID_RADIO_RECORDING_DAY:
-        m_nMode = MODE_RECORDING_DAY;
-        ShowRecordingDayPage();
-        break;
-    case ID_RADIO_RAID:
-        m_nMode = MODE_RAID;
-        ShowRaidCalculatorPage();
-        break;
-    case ID_RADIO_RAID2:
-        m_nMode = MODE_RAID2;
-        ShowRaidCalculator2Page();
-        break;
+    case ID_COMBO_RAID_DEV_TYPE:
+    case ID_COMBO_RAID_LEVEL:
+    case ID_COMBO_RAID_BAYS:
+        return &m_raid;
+    case ID_COMBO_RAID2_DEV_TYPE:
+    case ID_COMBO_RAID2_LEVEL:
+    case ID_COMBO_RAID2_BAYS:
+        return &m_raid2;
     default:
-        break;
+        return nullptr;
     }
 }
 
 void CCalculatorBottom::SelectChanged(int id, int index, void*)
 {
-    switch (static_cast<unsigned int>(id)) {
+    const unsigned int nID = static_cast<unsigned int>(id);
+    RaidInputs* pRaid = FindRaidInputs(nID);
+    switch (nID) {
     case ID_COMBO_CAPACITY:
-        if (m_pComboCapacity && index == m_pComboCapacity->GetCount() - 1) {
-            if (m_pComboCapacityUnit)
-                m_pComboCapacityUnit->ShowWindow(1);
-            if (m_pEditCustomCapacity) {
-                m_pEditCustomCapacity->ShowWindow(1);
-                m_pEditCustomCapacity->SetWindowTextW(L"0");
-            }
-            m_bCustomCapacity = 1;
-        } else {
-            if (m_pComboCapacityUnit)
-                m_pComboCapacityUnit->ShowWindow(0);
-            if (m_pEditCustomCapacity)
-                m_pEditCustomCapacity->ShowWindow(0);
-            m_bCustomCapacity = 0;
-        }
+    {
+        const bool bCustom = m_pComboCapacity && index == m_pComboCapacity->GetCount() - 1;
+        ShowWhere(SHOWN_IF_CUSTOM, bCustom);
+        // The answer that the reset text brings still counts the list's capacity.
+        if (bCustom && m_pEditCustomCapacity)
+            m_pEditCustomCapacity->SetWindowTextW(kNoCapacityText);
+        m_bCustomCapacity = bCustom ? 1 : 0;
         break;
+    }
     case ID_COMBO_CAPACITY_UNIT:
         OnCapacityUnitChanged(index);
         break;
     case ID_COMBO_RECORD_PLAN:
-        ShowDayPairs(index == 0 ? 0 : 1);
+        ShowWhere(SHOWN_IF_WEEKLY, index != 0);
         break;
     case ID_COMBO_RAID_DEV_TYPE:
-        RebuildBayCombo(index, m_pComboRaidLevel ? m_pComboRaidLevel->GetCurSel() : -1, false);
+    case ID_COMBO_RAID2_DEV_TYPE:
+        RebuildBayCombo(*pRaid, index, Selection(pRaid->pLevel));
         break;
     case ID_COMBO_RAID_LEVEL:
-        RebuildBayCombo(m_pComboRaidDevType ? m_pComboRaidDevType->GetCurSel() : -1, index,
-                        false);
+    case ID_COMBO_RAID2_LEVEL:
+        RebuildBayCombo(*pRaid, Selection(pRaid->pDevType), index);
         break;
     case ID_COMBO_RAID_BAYS:
-        m_nRaidBays = LookupBayCount(m_pComboRaidDevType ? m_pComboRaidDevType->GetCurSel() : -1,
-                                     m_pComboRaidLevel ? m_pComboRaidLevel->GetCurSel() : -1,
-                                     static_cast<unsigned>(index));
-        break;
-    case ID_COMBO_RAID2_DEV_TYPE:
-        RebuildBayCombo(index, m_pComboRaid2Level ? m_pComboRaid2Level->GetCurSel() : -1, true);
-        break;
-    case ID_COMBO_RAID2_LEVEL:
-        RebuildBayCombo(m_pComboRaid2DevType ? m_pComboRaid2DevType->GetCurSel() : -1, index,
-                        true);
-        break;
     case ID_COMBO_RAID2_BAYS:
-        m_nRaid2Bays =
-            LookupBayCount(m_pComboRaid2DevType ? m_pComboRaid2DevType->GetCurSel() : -1,
-                           m_pComboRaid2Level ? m_pComboRaid2Level->GetCurSel() : -1,
-                           static_cast<unsigned>(index));
+        pRaid->nBays = m_raidTables.LookupBayCount(
+            Selection(pRaid->pDevType), Selection(pRaid->pLevel), static_cast<unsigned>(index));
         break;
     default:
-        // The disk size combos (0xE43) only recalculate.
+        // The disk size combos only recalculate.
         break;
     }
     Recalculate();
+}
+
+void CCalculatorBottom::RebuildBayCombo(RaidInputs& raid, int nDevice, int nLevel)
+{
+    if (!raid.pBays)
+        return;
+    raid.pBays->ResetContent();
+    const std::vector<int>* pOptions = m_raidTables.FindBayOptions(nDevice, nLevel);
+    if (!pOptions)
+        return;
+    const std::vector<int> vecBays = *pOptions;
+    for (int nBays : vecBays)
+        raid.pBays->AddString(CRaidTables::FormatBayItem(nBays).c_str());
+    const int nIndex = CRaidTables::SelectRememberedBays(vecBays, raid.nBays);
+    if (nIndex >= 0)
+        raid.pBays->SetCurSel(nIndex);
 }
 
 void CCalculatorBottom::OnCapacityUnitChanged(int nIndex)
@@ -143,7 +151,7 @@ void CCalculatorBottom::OnCapacityUnitChanged(int nIndex)
     int nValue = 0;
     ReadEditDigits(m_pEditCustomCapacity, nValue);
     if (nValue > kMaxTB && m_pEditCustomCapacity)
-        m_pEditCustomCapacity->SetWindowTextW(L"999");
+        m_pEditCustomCapacity->SetWindowTextW(kMaxTBText);
 }
 
 void CCalculatorBottom::EDIT_OnTextChange(unsigned int id, wchar_t* text, void*)
@@ -173,7 +181,7 @@ void CCalculatorBottom::OnCustomCapacityChanged(const wchar_t* pszText)
     }
     int nValue = 0;
     if (!ReadEditDigits(m_pEditCustomCapacity, nValue) || nValue < 0)
-        m_pEditCustomCapacity->SetWindowTextW(L"0");
+        m_pEditCustomCapacity->SetWindowTextW(kNoCapacityText);
     Recalculate();
 }
 
@@ -185,7 +193,7 @@ void CCalculatorBottom::OnDayHoursChanged(int nDay, const wchar_t* pszText)
     int nValue = 0;
     if (!ReadEditDigits(pEdit, nValue) || nValue < 0) {
         // A bad entry falls back to a full day, not to none.
-        pEdit->SetWindowTextW(L"24");
+        pEdit->SetWindowTextW(kDayHoursFull);
         Recalculate();
         return;
     }

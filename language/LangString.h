@@ -13,6 +13,12 @@ void ReadLanguageChoice();
 // valid for the four lookups that follow.
 const wchar_t* GetLangString(const wchar_t* key, int reserved);
 
+// The looked-up text as an owned copy, safe from the rotating buffers.
+inline std::wstring LangText(const wchar_t* key)
+{
+    return GetLangString(key, 0);
+}
+
 // Tests point the lookup at another directory and start it afresh.
 void SFSetLanguageDirForTesting(const std::string& dir);
 void SFResetLanguageForTesting();

@@ -5,37 +5,45 @@
 //                   [--percent P] [--weekly] [--custom TEXT] [--tb]
 //                   [--screenshot FILE]
 
+#include "Config/VexUISetting.h"
+#include "calculator/CalculatorBottom.h"
+#include "language/LangString.h"
+#include "sf/SFComboBox.h"
+#include "sf/SFControlTypes.h"
+#include "sf/SFEditCtrl.h"
+#include "sf/SFFactory.h"
+#include "sf/SFRadioBox.h"
+#include "sf/SFView.h"
+#include "sf/qt/SFApplication.h"
+#include "sf/qt/SFQTStatic.h"
+
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QTimer>
 #include <QWidget>
-#include <string>
 
-#include "calculator/CalculatorBottom.h"
-#include "language/LangString.h"
-#include "sf/qt/SFApplication.h"
-#include "sf/SFComboBox.h"
-#include "sf/SFEditCtrl.h"
-#include "sf/SFFactory.h"
-#include "sf/qt/SFQTStatic.h"
-#include "sf/SFRadioBox.h"
-#include "sf/SFView.h"
-#include "Config/VexUISetting.h"
+#include <string>
 
 namespace {
 
 const int kPanelWidth = 1050;
 const int kPanelHeight = 287;
-const unsigned long kStyleVisible = 0x10000000ul;
+const int kLastEntry = -1;
 
-const unsigned int kModeRadios[] = {
-    CCalculatorBottom::ID_RADIO_DISK_REQUIREMENT, CCalculatorBottom::ID_RADIO_RECORDING_DAY,
-    CCalculatorBottom::ID_RADIO_RAID, CCalculatorBottom::ID_RADIO_RAID2,
-};
+// A control of the panel by the name the framework gives it from its id.
+template <class Control>
+Control* FindById(QWidget* pHost, const char* pszKind, unsigned int nID)
+{
+    const QString name = QString::fromLatin1(pszKind) + QLatin1Char('_') + QString::number(nID);
+    return dynamic_cast<Control*>(pHost->findChild<QWidget*>(name));
+}
 
 // A choice as the user makes it: the combo moves, then the panel hears of it.
-void Choose(CCalculatorBottom& panel, CSFComboBox* pCombo, unsigned int nID, int nIndex)
+void Choose(CCalculatorBottom& panel, QWidget* pHost, unsigned int nID, int nIndex)
 {
+    CSFComboBox* pCombo = FindById<CSFComboBox>(pHost, "combo", nID);
+    if (nIndex == kLastEntry)
+        nIndex = pCombo ? pCombo->GetCount() - 1 : -1;
     if (!pCombo || nIndex < 0 || nIndex >= pCombo->GetCount())
         return;
     pCombo->SetCurSel(nIndex);
@@ -92,30 +100,30 @@ int main(int argc, char** argv)
     // The page's rectangle, inclusive as the view takes it.
     const RECT rcPage = { 0, 0, kPanelWidth - 1, kPanelHeight - 1 };
     panel.SetPageRect(RECT{ 0, 0, kPanelWidth, kPanelHeight });
-    pView->Create(L"", L"", kStyleVisible, rcPage, host, 0);
+    pView->Create(L"", L"", SF_WS_VISIBLE, rcPage, host, 0);
     pView->ShowWindow(1);
 
     panel.SetTotals(parser.value(channels).toInt(), parser.value(bitrate).toDouble());
     panel.Recalculate();
 
-    auto switchTo = [&panel](int nMode) {
-        const unsigned int nID = kModeRadios[nMode];
-        panel.RADIO_OnClicked(1, static_cast<int>(nID), tagPOINT{ 0, 0 }, panel.FindModeRadio(nID));
+    auto switchTo = [&panel, host](int nMode) {
+        const unsigned int nID = CCalculatorBottom::kModeRadioIds[nMode];
+        panel.RADIO_OnClicked(1, static_cast<int>(nID), tagPOINT{ 0, 0 },
+                              FindById<CSFRadioBox>(host, "radio", nID));
     };
     // The inputs of mode 1 are chosen there, then the requested mode is shown.
     if (parser.isSet(weekly) || parser.isSet(custom)) {
         switchTo(1);
         if (parser.isSet(weekly))
-            Choose(panel, panel.m_pComboRecordPlan, CCalculatorBottom::ID_COMBO_RECORD_PLAN, 1);
-        if (parser.isSet(custom) && panel.m_pComboCapacity) {
-            Choose(panel, panel.m_pComboCapacity, CCalculatorBottom::ID_COMBO_CAPACITY,
-                   panel.m_pComboCapacity->GetCount() - 1);
+            Choose(panel, host, CCalculatorBottom::ID_COMBO_RECORD_PLAN, 1);
+        if (parser.isSet(custom)) {
+            Choose(panel, host, CCalculatorBottom::ID_COMBO_CAPACITY, kLastEntry);
             if (parser.isSet(tb))
-                Choose(panel, panel.m_pComboCapacityUnit,
-                       CCalculatorBottom::ID_COMBO_CAPACITY_UNIT, 1);
-            if (panel.m_pEditCustomCapacity)
-                panel.m_pEditCustomCapacity->SetWindowTextW(
-                    parser.value(custom).toStdWString().c_str());
+                Choose(panel, host, CCalculatorBottom::ID_COMBO_CAPACITY_UNIT, 1);
+            auto* pEdit =
+                FindById<CSFEditCtrl>(host, "edit", CCalculatorBottom::ID_EDIT_CUSTOM_CAPACITY);
+            if (pEdit)
+                pEdit->SetWindowTextW(parser.value(custom).toStdWString().c_str());
         }
     }
     const int nMode = parser.value(mode).toInt();
@@ -125,7 +133,8 @@ int main(int argc, char** argv)
 
     if (parser.isSet(shot)) {
         const QString file = parser.value(shot);
-        auto* value = dynamic_cast<CSFQTStatic*>(panel.m_pStaticResultValue);
+        auto* value = host->findChild<CSFQTStatic*>(
+            QString::fromLatin1(CCalculatorBottom::kNameResultValue));
         auto* poll = new QTimer(host);
         // Taken once the value has stopped flashing.
         QObject::connect(poll, &QTimer::timeout, host, [host, value, file, poll] {

@@ -3,56 +3,46 @@
 // bay lists of the RAID modes, and what each mode answers.
 
 #include "calculator/CalculatorBottom.h"
+#include "Config/VexUISetting.h"
+#include "sf/SFRadioBox.h"
+#include "sf/qt/SFQTStatic.h"
 #include "tests/streams/PageTestSupport.h"
 #include "tests/support/QtWait.h"
-#include "sf/SFButton.h"
-#include "sf/SFComboBox.h"
-#include "sf/SFEditCtrl.h"
-#include "sf/SFNumSpiner.h"
-#include "sf/qt/SFQTStatic.h"
-#include "sf/SFRadioBox.h"
-#include "Config/VexUISetting.h"
 
 #include <QComboBox>
 #include <QLineEdit>
 #include <QTest>
+
 #include <functional>
 #include <gtest/gtest.h>
+#include <set>
 #include <string>
 #include <vector>
 
 namespace {
 
-template <class Control>
-QWidget* W(Control* control)
+using Panel = CCalculatorBottom;
+
+bool Visible(const QWidget* w)
 {
-    return dynamic_cast<QWidget*>(control);
+    return w && w->isVisible();
 }
 
-template <class Control>
-bool Visible(Control* control)
+std::string Text(const QLineEdit* edit)
 {
-    return W(control) && W(control)->isVisible();
+    return edit ? edit->text().toStdString() : "<none>";
 }
 
-std::string Text(CSFEditCtrl* edit)
-{
-    auto* line = qobject_cast<QLineEdit*>(W(edit));
-    return line ? line->text().toStdString() : "<none>";
-}
-
-std::vector<std::string> Items(CSFComboBox* combo)
+std::vector<std::string> Items(const QComboBox* box)
 {
     std::vector<std::string> items;
-    auto* box = qobject_cast<QComboBox*>(W(combo));
     for (int i = 0; box && i < box->count(); ++i)
         items.push_back(box->itemText(i).toStdString());
     return items;
 }
 
-std::string Current(CSFComboBox* combo)
+std::string Current(const QComboBox* box)
 {
-    auto* box = qobject_cast<QComboBox*>(W(combo));
     return box ? box->currentText().toStdString() : "<none>";
 }
 
@@ -75,7 +65,27 @@ public:
         WaitTwinkleDone();
     }
 
-    CSFQTStatic* ValueLabel() const { return dynamic_cast<CSFQTStatic*>(p.m_pStaticResultValue); }
+    QWidget* Find(const std::string& name) const { return main.Find(name.c_str()); }
+    QWidget* ById(const char* kind, unsigned int id) const
+    {
+        return Find(std::string(kind) + "_" + std::to_string(id));
+    }
+    QComboBox* Combo(unsigned int id) const { return qobject_cast<QComboBox*>(ById("combo", id)); }
+    QComboBox* Raid2Disk() const { return qobject_cast<QComboBox*>(Find(Panel::kNameRaid2Disk)); }
+    QLineEdit* Edit(unsigned int id) const { return qobject_cast<QLineEdit*>(ById("edit", id)); }
+    QLineEdit* CustomCapacity() const { return Edit(Panel::ID_EDIT_CUSTOM_CAPACITY); }
+    QLineEdit* DayHours(int day) const
+    {
+        return Edit(Panel::ID_EDIT_DAY_HOURS_FIRST + static_cast<unsigned int>(day));
+    }
+    QWidget* DayLabel(int day) const
+    {
+        return Find(Panel::kNameDayPrefix + std::to_string(day));
+    }
+    CSFQTStatic* ValueLabel() const
+    {
+        return dynamic_cast<CSFQTStatic*>(Find(Panel::kNameResultValue));
+    }
     bool Twinkling() const { return ValueLabel()->TwinkleRunning(); }
     void WaitTwinkleDone() { EXPECT_EVENTUALLY(!Twinkling()); }
     std::string Caption() const { return d.ResultCaption().toStdString(); }
@@ -83,40 +93,49 @@ public:
 
     void SwitchTo(int mode)
     {
-        const unsigned int radios[] = { CCalculatorBottom::ID_RADIO_DISK_REQUIREMENT,
-                                        CCalculatorBottom::ID_RADIO_RECORDING_DAY,
-                                        CCalculatorBottom::ID_RADIO_RAID, CCalculatorBottom::ID_RADIO_RAID2 };
-        d.ClickMode(radios[mode]);
+        d.ClickMode(Panel::kModeRadioIds[mode]);
         EXPECT_EQ(p.GetMode(), mode);
     }
-    void ClickCalculate() { UserClick(W(p.m_pBtnCalculate)); }
-    void Choose(CSFComboBox* combo, const char* item)
+    void ClickCalculate() { UserClick(ById("button", Panel::ID_BTN_CALCULATE)); }
+    void Choose(QComboBox* box, const char* item)
     {
-        auto* box = qobject_cast<QComboBox*>(W(combo));
         const int index = box ? box->findText(QString::fromUtf8(item)) : -1;
         ASSERT_GE(index, 0) << item;
         UserChoose(box, index);
         EXPECT_EQ(box->currentIndex(), index) << item;
     }
-    void Type(CSFEditCtrl* edit, const char* text) { UserType(W(edit), QString::fromUtf8(text)); }
-    void EnterNumber(CSFNumSpiner* spin, int value)
+    void Choose(unsigned int comboId, const char* item) { Choose(Combo(comboId), item); }
+    void Type(QWidget* edit, const char* text) { UserType(edit, QString::fromUtf8(text)); }
+    void EnterNumber(QWidget* spin, int value)
     {
-        UserType(W(spin), QString::number(value));
-        QTest::keyClick(W(spin), Qt::Key_Return);
+        UserType(spin, QString::number(value));
+        QTest::keyClick(spin, Qt::Key_Return);
+    }
+    // The panel's controls that the user sees, by object name.
+    std::set<std::string> Shown() const
+    {
+        std::set<std::string> shown;
+        QWidget* view = ValueLabel()->parentWidget();
+        for (const QWidget* w : view->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+            if (w->isVisible())
+                shown.insert(w->objectName().toStdString());
+        }
+        return shown;
     }
 };
 
 TEST_F(CalculatorPanelTest, ClickingTheCurrentRadioChangesNothing)
 {
-    CSFRadioBox* radios[] = { p.m_pRadioDiskRequirement, p.m_pRadioRecordingDay, p.m_pRadioRaid,
-                              p.m_pRadioRaid2 };
     for (int mode : { 0, 1, 2, 3 }) {
         SwitchTo(mode);
         WaitTwinkleDone();
         const std::string value = Value();
         SwitchTo(mode);
         for (int other = 0; other < 4; ++other)
-            EXPECT_EQ(radios[other]->GetCheck(), other == mode ? 1 : 0) << mode;
+            EXPECT_EQ(dynamic_cast<CSFRadioBox*>(ById("radio", Panel::kModeRadioIds[other]))
+                          ->GetCheck(),
+                      other == mode ? 1 : 0)
+                << mode;
         EXPECT_EQ(Value(), value);
         // No layout ran, so nothing was recalculated or flashed.
         EXPECT_FALSE(Twinkling());
@@ -127,36 +146,36 @@ TEST_F(CalculatorPanelTest, TypedCapacityIsCutToItsUnitAndRepaired)
 {
     p.SetTotals(1, 2048);
     SwitchTo(1);
-    EXPECT_FALSE(Visible(p.m_pEditCustomCapacity) || Visible(p.m_pComboCapacityUnit));
-    Choose(p.m_pComboCapacity, "1TB");
+    EXPECT_FALSE(Visible(CustomCapacity()) || Visible(Combo(Panel::ID_COMBO_CAPACITY_UNIT)));
+    Choose(Panel::ID_COMBO_CAPACITY, "1TB");
     const std::string oneTB = Value();
     EXPECT_EQ(oneTB, "40  Day 16.56 Hour");
 
-    Choose(p.m_pComboCapacity, "Customize");
-    EXPECT_TRUE(Visible(p.m_pEditCustomCapacity) && Visible(p.m_pComboCapacityUnit));
-    EXPECT_EQ(Text(p.m_pEditCustomCapacity), "0");
+    Choose(Panel::ID_COMBO_CAPACITY, "Customize");
+    EXPECT_TRUE(Visible(CustomCapacity()) && Visible(Combo(Panel::ID_COMBO_CAPACITY_UNIT)));
+    EXPECT_EQ(Text(CustomCapacity()), "0");
     EXPECT_EQ(Value(), "0  Day 0.00 Hour");
 
     // GB: five characters at most; TB: three, and the switch caps the number.
-    Type(p.m_pEditCustomCapacity, "123456");
-    EXPECT_EQ(Text(p.m_pEditCustomCapacity), "12345");
-    Choose(p.m_pComboCapacityUnit, "TB");
-    EXPECT_EQ(Text(p.m_pEditCustomCapacity), "999");
-    Type(p.m_pEditCustomCapacity, "1234");
-    EXPECT_EQ(Text(p.m_pEditCustomCapacity), "123");
-    Type(p.m_pEditCustomCapacity, "1");
+    Type(CustomCapacity(), "123456");
+    EXPECT_EQ(Text(CustomCapacity()), "12345");
+    Choose(Panel::ID_COMBO_CAPACITY_UNIT, "TB");
+    EXPECT_EQ(Text(CustomCapacity()), "999");
+    Type(CustomCapacity(), "1234");
+    EXPECT_EQ(Text(CustomCapacity()), "123");
+    Type(CustomCapacity(), "1");
     EXPECT_EQ(Value(), oneTB);
     // A letter is no number: the edit falls back to 0.
-    Type(p.m_pEditCustomCapacity, "1x");
-    EXPECT_EQ(Text(p.m_pEditCustomCapacity), "0");
+    Type(CustomCapacity(), "1x");
+    EXPECT_EQ(Text(CustomCapacity()), "0");
 
-    Choose(p.m_pComboCapacityUnit, "GB");
-    Type(p.m_pEditCustomCapacity, "1024");
+    Choose(Panel::ID_COMBO_CAPACITY_UNIT, "GB");
+    Type(CustomCapacity(), "1024");
     EXPECT_EQ(Value(), oneTB);
 
     // Back on the list: the typed capacity no longer counts.
-    Choose(p.m_pComboCapacity, "32GB");
-    EXPECT_FALSE(Visible(p.m_pEditCustomCapacity) || Visible(p.m_pComboCapacityUnit));
+    Choose(Panel::ID_COMBO_CAPACITY, "32GB");
+    EXPECT_FALSE(Visible(CustomCapacity()) || Visible(Combo(Panel::ID_COMBO_CAPACITY_UNIT)));
     EXPECT_EQ(Value(), "1  Day 6.52 Hour");
 }
 
@@ -176,9 +195,9 @@ class CalculatorDayEdit : public CalculatorPanelTest, public testing::WithParamI
 TEST_P(CalculatorDayEdit, KeepsHoursWithinADay)
 {
     SwitchTo(1);
-    Choose(p.m_pComboRecordPlan, "Customize(hours)");
-    Type(p.m_pEditDayHours[3], GetParam().typed);
-    EXPECT_EQ(Text(p.m_pEditDayHours[3]), GetParam().expected);
+    Choose(Panel::ID_COMBO_RECORD_PLAN, "Customize(hours)");
+    Type(DayHours(3), GetParam().typed);
+    EXPECT_EQ(Text(DayHours(3)), GetParam().expected);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -192,41 +211,41 @@ TEST_F(CalculatorPanelTest, WeeklyPlanCountsEmptyDaysAsNoHours)
 {
     p.SetTotals(1, 4096);
     SwitchTo(1);
-    Choose(p.m_pComboCapacity, "1TB");
-    Choose(p.m_pComboRecordPlan, "Customize(hours)");
+    Choose(Panel::ID_COMBO_CAPACITY, "1TB");
+    Choose(Panel::ID_COMBO_RECORD_PLAN, "Customize(hours)");
     // Sunday to Thursday 8 hours, Friday and Saturday left empty.
-    for (int i = 0; i < CCalculatorBottom::kDayCount; ++i) {
-        EXPECT_TRUE(Visible(p.m_pStaticDay[i]) && Visible(p.m_pEditDayHours[i])) << i;
-        Type(p.m_pEditDayHours[i], i < 5 ? "8" : "");
+    for (int i = 0; i < Panel::kDayCount; ++i) {
+        EXPECT_TRUE(Visible(DayLabel(i)) && Visible(DayHours(i))) << i;
+        Type(DayHours(i), i < 5 ? "8" : "");
     }
     EXPECT_EQ(Value(), "12 Week 1 Day 0.28 Hour");
 
     for (int i = 0; i < 5; ++i)
-        Type(p.m_pEditDayHours[i], "");
+        Type(DayHours(i), "");
     EXPECT_EQ(Value(), "0 Week 0 Day 0.00 Hour");
 
     // Round the clock, the day edits are ignored and hidden.
-    Choose(p.m_pComboRecordPlan, "24 hours per day");
-    EXPECT_FALSE(Visible(p.m_pEditDayHours[0]));
+    Choose(Panel::ID_COMBO_RECORD_PLAN, "24 hours per day");
+    EXPECT_FALSE(Visible(DayHours(0)));
     EXPECT_EQ(Value(), "20  Day 8.28 Hour");
 }
 
 TEST_F(CalculatorPanelTest, DayPairsComeBackWithTheirValuesAfterLeavingTheMode)
 {
     SwitchTo(1);
-    Choose(p.m_pComboRecordPlan, "Customize(hours)");
-    Type(p.m_pEditDayHours[1], "8");
-    Type(p.m_pEditDayHours[6], "12");
+    Choose(Panel::ID_COMBO_RECORD_PLAN, "Customize(hours)");
+    Type(DayHours(1), "8");
+    Type(DayHours(6), "12");
     for (int other : { 0, 2, 3 }) {
         SwitchTo(other);
-        for (int i = 0; i < CCalculatorBottom::kDayCount; ++i)
-            EXPECT_FALSE(Visible(p.m_pEditDayHours[i]) || Visible(p.m_pStaticDay[i])) << other;
+        for (int i = 0; i < Panel::kDayCount; ++i)
+            EXPECT_FALSE(Visible(DayHours(i)) || Visible(DayLabel(i))) << other;
         SwitchTo(1);
-        for (int i = 0; i < CCalculatorBottom::kDayCount; ++i)
-            EXPECT_TRUE(Visible(p.m_pEditDayHours[i]) && Visible(p.m_pStaticDay[i])) << other;
-        EXPECT_EQ(Text(p.m_pEditDayHours[1]), "8");
-        EXPECT_EQ(Text(p.m_pEditDayHours[6]), "12");
-        EXPECT_EQ(Text(p.m_pEditDayHours[0]), "24");
+        for (int i = 0; i < Panel::kDayCount; ++i)
+            EXPECT_TRUE(Visible(DayHours(i)) && Visible(DayLabel(i))) << other;
+        EXPECT_EQ(Text(DayHours(1)), "8");
+        EXPECT_EQ(Text(DayHours(6)), "12");
+        EXPECT_EQ(Text(DayHours(0)), "24");
     }
 }
 
@@ -235,32 +254,34 @@ TEST_F(CalculatorPanelTest, BayCountSurvivesDeviceAndLevelChanges)
     const std::vector<std::string> sixteenUp = { "16 bay", "24 bay", "36 bay", "48 bay" };
     SwitchTo(2);
     EXPECT_EQ(Value(), "3.60TB");
-    Choose(p.m_pComboRaidBays, "16 bay");
+    Choose(Panel::ID_COMBO_RAID_BAYS, "16 bay");
     EXPECT_EQ(Value(), "7.20TB");
 
-    Choose(p.m_pComboRaidDevType, "MQS71");
-    EXPECT_EQ(Items(p.m_pComboRaidBays), sixteenUp);
-    EXPECT_EQ(Current(p.m_pComboRaidBays), "16 bay");
+    Choose(Panel::ID_COMBO_RAID_DEV_TYPE, "MQS71");
+    EXPECT_EQ(Items(Combo(Panel::ID_COMBO_RAID_BAYS)), sixteenUp);
+    EXPECT_EQ(Current(Combo(Panel::ID_COMBO_RAID_BAYS)), "16 bay");
 
     // RAID 5 on this device offers no 16: the list falls back to its first.
-    Choose(p.m_pComboRaidLevel, "RAID 5");
-    EXPECT_EQ(Items(p.m_pComboRaidBays), (std::vector<std::string>{ "24 bay", "36 bay", "48 bay" }));
-    EXPECT_EQ(Current(p.m_pComboRaidBays), "24 bay");
+    Choose(Panel::ID_COMBO_RAID_LEVEL, "RAID 5");
+    EXPECT_EQ(Items(Combo(Panel::ID_COMBO_RAID_BAYS)), (std::vector<std::string>{ "24 bay", "36 bay", "48 bay" }));
+    EXPECT_EQ(Current(Combo(Panel::ID_COMBO_RAID_BAYS)), "24 bay");
     EXPECT_EQ(Value(), "18.00TB");
 
-    Choose(p.m_pComboRaidDevType, "MQS50");
-    EXPECT_EQ(Items(p.m_pComboRaidBays), sixteenUp);
-    EXPECT_EQ(Current(p.m_pComboRaidBays), "24 bay");
-    Choose(p.m_pComboRaidDisk, "4 TB");
+    Choose(Panel::ID_COMBO_RAID_DEV_TYPE, "MQS50");
+    EXPECT_EQ(Items(Combo(Panel::ID_COMBO_RAID_BAYS)), sixteenUp);
+    EXPECT_EQ(Current(Combo(Panel::ID_COMBO_RAID_BAYS)), "24 bay");
+    Choose(Panel::ID_COMBO_RAID_DISK, "4 TB");
     EXPECT_EQ(Value(), "72.00TB");
 
     // Mode 3 keeps a count of its own: its first rebuild takes the smallest
     // offer and leaves mode 2's alone.
     SwitchTo(3);
-    Choose(p.m_pComboRaid2DevType, "MQS70");
-    EXPECT_EQ(p.m_nRaid2Bays, 16);
-    EXPECT_EQ(p.m_pComboRaid2Bays->GetCurSel(), 0);
-    EXPECT_EQ(p.m_nRaidBays, 24);
+    Choose(Panel::ID_COMBO_RAID2_DEV_TYPE, "MQS70");
+    EXPECT_EQ(Current(Combo(Panel::ID_COMBO_RAID2_BAYS)), "16 bay");
+    Choose(Panel::ID_COMBO_RAID2_BAYS, "36 bay");
+    SwitchTo(2);
+    Choose(Panel::ID_COMBO_RAID_LEVEL, "RAID 6");
+    EXPECT_EQ(Current(Combo(Panel::ID_COMBO_RAID_BAYS)), "24 bay");
 }
 
 struct AnswerCase {
@@ -302,28 +323,28 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         AnswerCase{ "DiskZeroRate", 0, 0, nullptr, "Request Capacity:", "0.00GB", false },
         AnswerCase{ "DiskSevenDays", 0, 2048,
-                    [](CalculatorPanelTest& t) { t.EnterNumber(t.p.m_pSpinDays, 7); },
+                    [](CalculatorPanelTest& t) { t.EnterNumber(t.ById("spinner", Panel::ID_SPIN_DAYS), 7); },
                     "Request Capacity:", "147.66GB", true },
         AnswerCase{ "DaysZeroRate", 1, 0, nullptr, "Recording Days:", "0 Day 0 Hour", true },
         AnswerCase{ "RaidMqs71Raid5", 2, 0,
                     [](CalculatorPanelTest& t) {
-                        t.Choose(t.p.m_pComboRaidDevType, "MQS71");
-                        t.Choose(t.p.m_pComboRaidLevel, "RAID 5");
-                        t.Choose(t.p.m_pComboRaidBays, "48 bay");
-                        t.Choose(t.p.m_pComboRaidDisk, "16 TB");
+                        t.Choose(Panel::ID_COMBO_RAID_DEV_TYPE, "MQS71");
+                        t.Choose(Panel::ID_COMBO_RAID_LEVEL, "RAID 5");
+                        t.Choose(Panel::ID_COMBO_RAID_BAYS, "48 bay");
+                        t.Choose(Panel::ID_COMBO_RAID_DISK, "16 TB");
                     },
                     "Available:", "590.40TB", true },
         AnswerCase{ "DevicesOne", 3, 409600,
                     [](CalculatorPanelTest& t) {
-                        t.EnterNumber(t.p.m_pSpinRaid2Days, 30);
-                        t.Choose(t.p.m_pComboRaid2DevType, "MQS50");
-                        t.Choose(t.p.m_pComboRaid2Level, "RAID 6");
-                        t.Choose(t.p.m_pComboRaid2Bays, "48 bay");
-                        t.Choose(t.p.m_pComboRaid2Disk, "8 TB");
+                        t.EnterNumber(t.Find(Panel::kNameRaid2Days), 30);
+                        t.Choose(Panel::ID_COMBO_RAID2_DEV_TYPE, "MQS50");
+                        t.Choose(Panel::ID_COMBO_RAID2_LEVEL, "RAID 6");
+                        t.Choose(Panel::ID_COMBO_RAID2_BAYS, "48 bay");
+                        t.Choose(t.Raid2Disk(), "8 TB");
                     },
                     "Need:", "1 Device", true },
         AnswerCase{ "DevicesMany", 3, 409600,
-                    [](CalculatorPanelTest& t) { t.EnterNumber(t.p.m_pSpinRaid2Days, 30); },
+                    [](CalculatorPanelTest& t) { t.EnterNumber(t.Find(Panel::kNameRaid2Days), 30); },
                     "Need:", "35 Devices", true }),
     [](const testing::TestParamInfo<AnswerCase>& info) { return std::string(info.param.name); });
 
@@ -343,7 +364,7 @@ TEST_F(CalculatorPanelTest, RecordablePercentageMovesOnlyTheRecordingDays)
         EXPECT_EQ(Value() == before[mode], mode != 1) << mode;
     }
     SwitchTo(1);
-    Choose(p.m_pComboCapacity, "1TB");
+    Choose(Panel::ID_COMBO_CAPACITY, "1TB");
     EXPECT_EQ(Value(), "22  Day 14.53 Hour");
 }
 
@@ -352,17 +373,51 @@ TEST_F(CalculatorPanelTest, LargeDeviceCountsTakeTwoLinesAndOneLineComesBack)
     p.SetTotals(1, 2048);
     SwitchTo(3);
     EXPECT_EQ(Value(), "1 Device");
-    const RECT oneLine = p.m_pStaticResultValue->GetGeometry();
+    const QRect oneLine = ValueLabel()->geometry();
 
     p.SetTotals(1, 1e11);
     ClickCalculate();
     EXPECT_NE(Value().find("\r\nDevices"), std::string::npos) << Value();
-    EXPECT_GT(p.m_pStaticResultValue->GetGeometry().bottom, oneLine.bottom);
+    EXPECT_GT(ValueLabel()->geometry().bottom(), oneLine.bottom());
 
     p.SetTotals(1, 2048);
     ClickCalculate();
     EXPECT_EQ(Value(), "1 Device");
-    const RECT back = p.m_pStaticResultValue->GetGeometry();
-    EXPECT_EQ(std::vector<long>({ back.left, back.top, back.right, back.bottom }),
-              std::vector<long>({ oneLine.left, oneLine.top, oneLine.right, oneLine.bottom }));
+    EXPECT_EQ(ValueLabel()->geometry(), oneLine);
+}
+
+TEST_F(CalculatorPanelTest, EachModeShowsTheSameControlsWhicheverModeCameBefore)
+{
+    std::set<std::string> fresh[Panel::kModeCount];
+    for (int mode = 0; mode < Panel::kModeCount; ++mode) {
+        SwitchTo(mode);
+        fresh[mode] = Shown();
+        EXPECT_EQ(fresh[mode].count(Panel::kNameDevicesTips), mode == Panel::MODE_RAID2 ? 1u : 0u);
+    }
+    for (int from = 0; from < Panel::kModeCount; ++from) {
+        for (int to = 0; to < Panel::kModeCount; ++to) {
+            SwitchTo(from);
+            SwitchTo(to);
+            EXPECT_EQ(Shown(), fresh[to]) << from << " -> " << to;
+        }
+    }
+}
+
+TEST_F(CalculatorPanelTest, EveryShownControlHasItsOwnNameAndWords)
+{
+    for (int mode = 0; mode < Panel::kModeCount; ++mode) {
+        SwitchTo(mode);
+        if (mode == Panel::MODE_RECORDING_DAY) {
+            Choose(Panel::ID_COMBO_CAPACITY, "Customize");
+            Choose(Panel::ID_COMBO_RECORD_PLAN, "Customize(hours)");
+        }
+        QWidget* view = ValueLabel()->parentWidget();
+        std::set<QString> names;
+        for (const QWidget* w : view->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+            if (!w->isVisible())
+                continue;
+            EXPECT_TRUE(names.insert(w->objectName()).second) << w->objectName().toStdString();
+            EXPECT_FALSE(w->accessibleName().isEmpty()) << w->objectName().toStdString();
+        }
+    }
 }

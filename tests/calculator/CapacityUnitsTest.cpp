@@ -12,28 +12,36 @@
 
 namespace {
 
-struct CapacityCase {
-    double dGB;
+// Both amounts step to the next unit only above 10000 of the current one.
+struct UnitCase {
+    std::wstring (*format)(double);
+    double dAmount;
     const wchar_t* pszText;
 };
 
-class CapacityTextTest : public ::testing::TestWithParam<CapacityCase> {};
+class UnitTextTest : public ::testing::TestWithParam<UnitCase> {};
 
-TEST_P(CapacityTextTest, StepsAboveTenThousandOfTheCurrentUnit)
+TEST_P(UnitTextTest, StepsAboveTenThousandOfTheCurrentUnit)
 {
-    EXPECT_EQ(FormatCapacityGB(GetParam().dGB), GetParam().pszText);
+    EXPECT_EQ(GetParam().format(GetParam().dAmount), GetParam().pszText);
 }
 
-INSTANTIATE_TEST_SUITE_P(Units, CapacityTextTest, ::testing::Values(
-    CapacityCase{147.65625, L"147.66GB"},
-    CapacityCase{10000.0, L"10000.00GB"},
-    CapacityCase{10000.001, L"9.77TB"},
+INSTANTIATE_TEST_SUITE_P(Units, UnitTextTest, ::testing::Values(
+    UnitCase{FormatCapacityGB, 147.65625, L"147.66GB"},
+    UnitCase{FormatCapacityGB, 10000.0, L"10000.00GB"},
+    UnitCase{FormatCapacityGB, 10000.001, L"9.77TB"},
     // 10000 TB stays in TB, one step more goes to PB.
-    CapacityCase{10000.0 * 1024, L"10000.00TB"},
-    CapacityCase{10001.0 * 1024, L"9.77PB"},
-    CapacityCase{10001.0 * 1024 * 1024, L"9.77EB"},
+    UnitCase{FormatCapacityGB, 10000.0 * 1024, L"10000.00TB"},
+    UnitCase{FormatCapacityGB, 10001.0 * 1024, L"9.77PB"},
+    UnitCase{FormatCapacityGB, 10001.0 * 1024 * 1024, L"9.77EB"},
     // EB is the last unit: no further step however large.
-    CapacityCase{1e20, L"93132257461.55EB"}));
+    UnitCase{FormatCapacityGB, 1e20, L"93132257461.55EB"},
+    UnitCase{FormatTotalBitrate, 10000.0, L"10000.00 kbps"},
+    UnitCase{FormatTotalBitrate, 10001.0, L"9.77 Mbps"},
+    // 10240000 kbps is exactly 10000 Mbps and so stays in Mbps.
+    UnitCase{FormatTotalBitrate, 10240000.0, L"10000.00 Mbps"},
+    UnitCase{FormatTotalBitrate, 10240001.0, L"9.77 Gbps"},
+    UnitCase{FormatTotalBitrate, 20000000000.0, L"19073.49 Gbps"}));
 
 struct DiskCase {
     int nDays;
@@ -64,26 +72,6 @@ TEST(DiskRequirementZeroTest, ZeroRateIsNotFlashed)
     EXPECT_EQ(result.strValue, L"0.00GB");
     EXPECT_FALSE(result.bTwinkle);
 }
-
-struct BitrateCase {
-    double dKbps;
-    const wchar_t* pszText;
-};
-
-class BitrateTextTest : public ::testing::TestWithParam<BitrateCase> {};
-
-TEST_P(BitrateTextTest, StepsToGbpsAtMost)
-{
-    EXPECT_EQ(FormatTotalBitrate(GetParam().dKbps), GetParam().pszText);
-}
-
-INSTANTIATE_TEST_SUITE_P(Units, BitrateTextTest, ::testing::Values(
-    BitrateCase{10000.0, L"10000.00 kbps"},
-    BitrateCase{10001.0, L"9.77 Mbps"},
-    // 10240000 kbps is exactly 10000 Mbps and so stays in Mbps.
-    BitrateCase{10240000.0, L"10000.00 Mbps"},
-    BitrateCase{10240001.0, L"9.77 Gbps"},
-    BitrateCase{20000000000.0, L"19073.49 Gbps"}));
 
 TEST(TotalsTextTest, HugeRateKeepsAllItsDigits)
 {

@@ -6,8 +6,9 @@
 
 class CCalculatorBottom;
 class CSessionUser;
-class CSFComboBox;
-class CSFRadioBox;
+class CSFStatic;
+class QComboBox;
+class QWidget;
 
 class CSessionCalculator {
 public:
@@ -21,9 +22,18 @@ public:
     // The zero answers once the table is empty.
     void CheckEmptyTable();
 
+    // A label of the panel by its object name, such as kNameResultValue.
+    static CSFStatic* Label(const CCalculatorBottom* panel, const char* name);
+
 private:
-    void SwitchTo(CSFRadioBox* radio, int mode, const char* name);
-    void Choose(CSFComboBox* combo, int index, const QString& what);
+    // A control by its object name; by kind and id where the id names it.
+    QWidget* Find(const QString& name) const;
+    QWidget* Find(const char* kind, unsigned int id) const;
+    QComboBox* Combo(unsigned int id) const;
+    QWidget* DayHours(int day) const;
+
+    void SwitchTo(int mode, const char* name);
+    void Choose(QComboBox* combo, int index, const QString& what);
     void CheckAnswer(const QString& caption, const QString& value, const QString& what);
     QString Value() const;
 
