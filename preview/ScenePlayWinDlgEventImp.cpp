@@ -1,7 +1,6 @@
 #include "preview/ScenePlayWinDlgEventImp.h"
 
 #include "sf/DialogStyle.h"
-#include "sf/ImageButtonStyle.h"
 #include "sf/ImageVideoWindowStyle.h"
 #include "language/LangString.h"
 #include "preview/PlayManagerUILogic.h"
@@ -11,6 +10,7 @@
 #include "sf/SFFactory.h"
 #include "sf/SFVideoWindow.h"
 #include "sf/SFVideoWindowFactory.h"
+#include "sf/dialogs/SFSkinRecords.h"
 
 namespace {
 
@@ -18,6 +18,11 @@ struct SceneEntry {
     const wchar_t* titleKey;
     const wchar_t* clip;
 };
+
+constexpr unsigned int kCloseButtonId = 2;
+constexpr unsigned int kVideoWindowId = 145;
+constexpr unsigned int kEscapeKey = 27;
+constexpr int kVideoTop = 30;
 
 const SceneEntry kScenes[] = {
     { L"Scene 1", L"/1low.kvf" },
@@ -27,7 +32,7 @@ const SceneEntry kScenes[] = {
 
 const SceneEntry* FindScene(int scene)
 {
-    if (scene < 1 || scene > 3)
+    if (scene < 1 || scene > static_cast<int>(sizeof(kScenes) / sizeof(kScenes[0])))
         return nullptr;
     return &kScenes[scene - 1];
 }
@@ -60,7 +65,7 @@ void FillVideoWindowStyle(ImageVideoWindowStyle& s)
 } // namespace
 
 SF_BEGIN_MSGMAP(CScenePlayWinDlgEventImp)
-    SF_ON_COMMAND(2, OnBtnClose)
+    SF_ON_COMMAND(kCloseButtonId, OnBtnClose)
 SF_END_MSGMAP()
 
 CScenePlayWinDlgEventImp::CScenePlayWinDlgEventImp()
@@ -111,18 +116,8 @@ int CScenePlayWinDlgEventImp::Dlg_OnInitDialog(bool bCreateOnly)
     tagRECT rcDlg = { 0, 0, 450, 460 };
     const int width = rcDlg.right - rcDlg.left;
 
-    m_pBtnClose = SFCreateButton(this);
-    if (m_pBtnClose) {
-        const tagRECT rcClose = { width - 22, 2, width + 2, 26 };
-        m_pBtnClose->Create(L"", 0x10000000, rcClose, GetUIWnd(), 2);
-        ImageButtonStyle closeStyle;
-        closeStyle.strNormal = L"close-normal.png";
-        closeStyle.strHover = L"close-hover.png";
-        closeStyle.strPressed = L"close-pressed.png";
-        closeStyle.strDisabled = L"close-disabled.png";
-        m_pBtnClose->SetSkin(&closeStyle);
-        m_pBtnClose->SetToolTipText(GetLangString(L"Close", 0));
-    }
+    m_pBtnClose = SFCreateCloseButton(this, tagRECT{ width - 22, 2, width + 2, 26 }, GetUIWnd(),
+                                      kCloseButtonId);
 
     ImageVideoWindowStyle videoStyle;
     FillVideoWindowStyle(videoStyle);
@@ -131,8 +126,9 @@ int CScenePlayWinDlgEventImp::Dlg_OnInitDialog(bool bCreateOnly)
     if (m_pVideoWindow) {
         m_pVideoWindow->SetSkin(&videoStyle);
         tagRECT rcVideo = rcDlg;
-        rcVideo.top = 30;
-        m_pVideoWindow->Create(L"VideoWindow", rcVideo, m_pDlg ? m_pDlg->GetUIWnd() : nullptr, 145);
+        rcVideo.top = kVideoTop;
+        m_pVideoWindow->Create(L"VideoWindow", rcVideo, m_pDlg ? m_pDlg->GetUIWnd() : nullptr,
+                                kVideoWindowId);
         m_pVideoWindow->EableSubWinExchange(0);
         m_pVideoWindow->SetSubWinCtrlsVisible(0);
         m_pVideoWindow->SetDefaultLayout(DEFAULT_LAYOUT_1);
@@ -166,7 +162,7 @@ void CScenePlayWinDlgEventImp::Dlg_OnCancel()
 
 void CScenePlayWinDlgEventImp::OnDlgKeyDown(unsigned int, unsigned int key)
 {
-    if (key == 27 && m_pDlg)
+    if (key == kEscapeKey && m_pDlg)
         m_pDlg->MFCCancel();
 }
 

@@ -1,7 +1,6 @@
 #include "shell/AboutDlgEventImp.h"
 
 #include "sf/DialogStyle.h"
-#include "sf/ImageButtonStyle.h"
 #include "language/LangString.h"
 #include "sf/SFButton.h"
 #include "sf/SFDialog.h"
@@ -9,18 +8,24 @@
 #include "sf/SFPictureCtrl.h"
 #include "sf/SFRect.h"
 #include "sf/SFStatic.h"
+#include "sf/dialogs/SFControlNames.h"
+#include "sf/dialogs/SFReleaseControls.h"
+#include "sf/dialogs/SFSkinRecords.h"
 #include "sf/qt/SFQtConvert.h"
 
 #include <QDesktopServices>
 #include <QUrl>
 
-SF_BEGIN_MSGMAP(CAboutDlgEventImp)
-    SF_ON_COMMAND(1000, OnWebSite)
-SF_END_MSGMAP()
-
 namespace {
 
 constexpr int kWebSiteId = 1000;
+constexpr unsigned int kCloseButtonId = 2;
+constexpr unsigned long kPictureStyle = 0x50000000ul;
+constexpr unsigned long kTextStyle = 0x10010000ul;
+constexpr int kTextSize = 14;
+constexpr unsigned int kLinkPressedColor = 0xFFFFFF;
+constexpr unsigned int kLinkHoverColor = 0xFF0000;
+constexpr int kAddressChars = 129;
 
 std::wstring TextOrEmpty(const wchar_t* text)
 {
@@ -28,6 +33,10 @@ std::wstring TextOrEmpty(const wchar_t* text)
 }
 
 } // namespace
+
+SF_BEGIN_MSGMAP(CAboutDlgEventImp)
+    SF_ON_COMMAND(kWebSiteId, OnWebSite)
+SF_END_MSGMAP()
 
 CAboutDlgEventImp::CAboutDlgEventImp(const wchar_t* title, const wchar_t* picture,
                                      const wchar_t* version, const wchar_t* copyright,
@@ -61,38 +70,31 @@ int CAboutDlgEventImp::Dlg_OnInitDialog(bool bCreateOnly)
     m_pPicture = SFCreatePictureCtrl(nullptr);
     if (m_pPicture) {
         m_pPicture->SetImage(m_strPicture.c_str());
-        m_pPicture->Create(L"", 0x50000000, rcPicture, GetUIWnd(), 0);
+        m_pPicture->Create(L"", kPictureStyle, rcPicture, GetUIWnd(), 0);
     }
 
     m_pVersion = SFCreateStatic(nullptr);
     if (m_pVersion) {
-        m_pVersion->Create(m_strVersion.c_str(), 0x10010000, rcText, GetUIWnd(), 0);
-        m_pVersion->SetTextSize(14);
+        m_pVersion->Create(m_strVersion.c_str(), kTextStyle, rcText, GetUIWnd(), 0);
+        m_pVersion->SetTextSize(kTextSize);
         m_pVersion->SetTextAlignFlag(0);
+        SFSetObjectName(m_pVersion, "label_version");
     }
 
     rcText.OffsetRect(0, rcText.Height() + kGap);
     m_pCopyright = SFCreateStatic(nullptr);
     if (m_pCopyright) {
-        m_pCopyright->Create(m_strCopyright.c_str(), 0x10010000, rcText, GetUIWnd(), 0);
-        m_pCopyright->SetTextSize(14);
+        m_pCopyright->Create(m_strCopyright.c_str(), kTextStyle, rcText, GetUIWnd(), 0);
+        m_pCopyright->SetTextSize(kTextSize);
+        SFSetObjectName(m_pCopyright, "label_copyright");
     }
 
     // The third line would hold the web site, which is not shown.
     rcText.OffsetRect(0, rcText.Height() + kGap);
 
-    m_pBtnClose = SFCreateButton(this);
-    if (m_pBtnClose) {
-        const tagRECT rcClose{ rcDlg.Width() - 22, 2, rcDlg.Width() + 2, 26 };
-        m_pBtnClose->Create(L"", 0x10000000, rcClose, GetUIWnd(), 2);
-        ImageButtonStyle style;
-        style.strNormal = L"close-normal.png";
-        style.strHover = L"close-hover.png";
-        style.strPressed = L"close-pressed.png";
-        style.strDisabled = L"close-disabled.png";
-        m_pBtnClose->SetSkin(&style);
-        m_pBtnClose->SetToolTipText(GetLangString(L"Close", 0));
-    }
+    m_pBtnClose = SFCreateCloseButton(
+        this, tagRECT{ rcDlg.Width() - 22, 2, rcDlg.Width() + 2, 26 }, GetUIWnd(),
+        kCloseButtonId);
 
     if (m_pDlg) {
         CSFRect rc = rcDlg;
@@ -104,48 +106,41 @@ int CAboutDlgEventImp::Dlg_OnInitDialog(bool bCreateOnly)
 
 void CAboutDlgEventImp::Dlg_Destroy()
 {
-    SFDestroyControl(m_pPicture);
-    m_pPicture = nullptr;
-    SFDestroyControl(m_pVersion);
-    m_pVersion = nullptr;
-    SFDestroyControl(m_pCopyright);
-    m_pCopyright = nullptr;
-    SFDestroyControl(m_pWebSite);
-    m_pWebSite = nullptr;
-    SFDestroyControl(m_pBtnClose);
-    m_pBtnClose = nullptr;
+    SFReleaseControls(m_pPicture, m_pVersion, m_pCopyright, m_pWebSite, m_pBtnClose);
+}
+
+void CAboutDlgEventImp::TintWebSite(int id, unsigned int color)
+{
+    if (id == kWebSiteId && m_pWebSite)
+        m_pWebSite->SetTextColor(color);
 }
 
 void CAboutDlgEventImp::BTN_OnLButtonDown(int id, unsigned int, tagPOINT)
 {
-    if (id == kWebSiteId && m_pWebSite)
-        m_pWebSite->SetTextColor(0xFFFFFF);
+    TintWebSite(id, kLinkPressedColor);
 }
 
 void CAboutDlgEventImp::BTN_OnLButtonUp(int id, unsigned int, tagPOINT)
 {
-    if (id == kWebSiteId && m_pWebSite)
-        m_pWebSite->SetTextColor(0);
+    TintWebSite(id, 0);
 }
 
 void CAboutDlgEventImp::BTN_OnMouseMove(int id, unsigned int, tagPOINT)
 {
-    if (id == kWebSiteId && m_pWebSite)
-        m_pWebSite->SetTextColor(0xFF0000);
+    TintWebSite(id, kLinkHoverColor);
 }
 
 void CAboutDlgEventImp::BTN_OnMouseLeave(int id, unsigned int, long)
 {
-    if (id == kWebSiteId && m_pWebSite)
-        m_pWebSite->SetTextColor(0);
+    TintWebSite(id, 0);
 }
 
 void CAboutDlgEventImp::OnWebSite()
 {
     if (!m_pWebSite)
         return;
-    wchar_t address[129] = {};
-    m_pWebSite->GetWindowTextW(address, 129);
+    wchar_t address[kAddressChars] = {};
+    m_pWebSite->GetWindowTextW(address, kAddressChars);
     if (address[0] != L'\0')
         QDesktopServices::openUrl(QUrl::fromUserInput(SFToQString(address)));
 }

@@ -35,6 +35,10 @@ public:
     void BTN_OnMouseLeave(int id, unsigned int flags, long data) override;
     void OnWebSite();
 
+private:
+    // The link's text colour follows the mouse.
+    void TintWebSite(int id, unsigned int color);
+
     CSFDialog* m_pDlg;
     CSFPictureCtrl* m_pPicture;
     CSFStatic* m_pVersion;

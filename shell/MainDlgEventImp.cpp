@@ -1,10 +1,19 @@
 #include "shell/MainDlgEventImp.h"
 
 #include "sf/DialogStyle.h"
+#include "sf/SFControlTypes.h"
+#include "sf/dialogs/SFSkinRecords.h"
 #include "sf/SFFactory.h"
 #include "sf/SFView.h"
 #include "streams/TallixEventImp.h"
 #include "shell/ToolBarEventImp.h"
+
+namespace {
+
+constexpr unsigned int kPageViewId = 102;
+constexpr unsigned int kWhite = 0xFFFFFFFF;
+
+} // namespace
 
 SF_BEGIN_MSGMAP(CMainDlgEventImp)
 SF_END_MSGMAP()
@@ -35,15 +44,10 @@ void CMainDlgEventImp::GetMainDlgStyle(DialogStyle& style)
     style.strTop = L"30,0,1,1";
     style.strTopMode = L"stretch";
     style.strTopRight = L"138,0,10,1";
-    style.strLeftTop = L"0,65,1,1";
-    style.strLeft = L"0,65,1,1";
-    style.strLeftBottom = L"0,65,1,1";
+    SFSetDialogSides(style, L"0,65,1,1", L"147,65,1,1");
     style.strBottomLeft = L"0,139,10,1";
     style.strBottom = L"10,139,30,1";
     style.strBottomRight = L"138,139,10,1";
-    style.strRightBottom = L"147,65,1,1";
-    style.strRight = L"147,65,1,1";
-    style.strRightTop = L"147,65,1,1";
     style.strTitleFont = L"Tahoma";
     style.strTitleFontSize = L"11";
     style.strTitleColor = L"333333";
@@ -60,13 +64,13 @@ int CMainDlgEventImp::Dlg_OnInitDialog(bool)
     if (m_pToolBarView) {
         m_pToolBarView->SetBackground(L"bg_toolbar.png");
         const tagRECT rcToolBar{ 0, 0, 1100, 60 };
-        m_pToolBarView->Create(L"", L"", 0x10000000, rcToolBar, GetUIWnd(), 0);
+        m_pToolBarView->Create(L"", L"", SF_WS_VISIBLE, rcToolBar, GetUIWnd(), 0);
     }
     m_pPageView = SFCreateView(m_pPageEvent);
     if (m_pPageView) {
         const tagRECT rcPage{ 0, 61, 1100, 750 };
-        m_pPageView->Create(L"", L"", 0, rcPage, GetUIWnd(), 102);
-        m_pPageView->SetBGClr(0xFFFFFFFF);
+        m_pPageView->Create(L"", L"", 0, rcPage, GetUIWnd(), kPageViewId);
+        m_pPageView->SetBGClr(kWhite);
         m_pPageView->ShowWindow(1);
     }
     return 1;

@@ -28,6 +28,10 @@ public:
     int Dlg_OnInitDialog(bool bCreateOnly) override;
     void Dlg_Destroy() override;
 
+    // The channel list page below the toolbar.
+    CTallixEventImp* GetPageEvent() const { return m_pPageEvent; }
+
+private:
     CSFDialog* m_pDlg;
     CSFView* m_pToolBarView;
     CToolBarEventImp* m_pToolBarEvent;

@@ -2,28 +2,27 @@
 
 #include "shell/AboutDlgEventImp.h"
 #include "sf/DialogStyle.h"
-#include "sf/ImageButtonStyle.h"
 #include "language/LangString.h"
 #include "shell/MainDlgEventImp.h"
 #include "sf/qt/SFApplication.h"
 #include "sf/SFButton.h"
+#include "sf/SFControlTypes.h"
 #include "sf/SFDialog.h"
 #include "sf/SFFactory.h"
 #include "sf/SFPictureCtrl.h"
+#include "sf/dialogs/SFReleaseControls.h"
+#include "sf/dialogs/SFSkinRecords.h"
 #include "sf/qt/SFQtConvert.h"
 
 #include <string>
 
-SF_BEGIN_MSGMAP(CToolBarEventImp)
-    SF_ON_COMMAND(2001, OnBtnMin)
-    SF_ON_COMMAND(2003, OnBtnClose)
-    SF_ON_COMMAND(2025, OnBtnAbout)
-SF_END_MSGMAP()
-
 namespace {
 
+constexpr unsigned long kLogoStyle = 0x50000000ul;
+constexpr unsigned int kNoId = static_cast<unsigned int>(-1);
+constexpr unsigned int kCloseMessage = 16;
+
 struct ToolButton {
-    CSFButton* CToolBarEventImp::*slot;
     unsigned int id;
     tagRECT rect;
     const wchar_t* images[4];
@@ -34,18 +33,24 @@ struct ToolButton {
 // In order of creation, left to right; each button starts 3 pixels after the
 // one before it.
 const ToolButton kToolButtons[] = {
-    { &CToolBarEventImp::m_pBtnAbout, 2025, { 1012, 8, 1036, 32 },
+    { CToolBarEventImp::IdAbout, { 1012, 8, 1036, 32 },
       { L"about-normal.png", L"about-hover.png", L"about-pressed.png", L"about-disabled.png" },
       L"About", false },
-    { &CToolBarEventImp::m_pBtnMin, 2001, { 1039, 8, 1066, 32 },
+    { CToolBarEventImp::IdMin, { 1039, 8, 1066, 32 },
       { L"min-normal.png", L"min-hover.png", L"min-pressed.png", L"min-disabled.png" },
       L"Min", true },
-    { &CToolBarEventImp::m_pBtnClose, 2003, { 1069, 8, 1096, 32 },
+    { CToolBarEventImp::IdClose, { 1069, 8, 1096, 32 },
       { L"close-normal.png", L"close-hover.png", L"close-pressed.png", L"close-disabled.png" },
       L"Close", false },
 };
 
 } // namespace
+
+SF_BEGIN_MSGMAP(CToolBarEventImp)
+    SF_ON_COMMAND(IdMin, OnBtnMin)
+    SF_ON_COMMAND(IdClose, OnBtnClose)
+    SF_ON_COMMAND(IdAbout, OnBtnAbout)
+SF_END_MSGMAP()
 
 CToolBarEventImp::CToolBarEventImp(CMainDlgEventImp* pMain)
     : m_pLogo(nullptr), m_pMain(pMain), m_pBtnClose(nullptr), m_pBtnMin(nullptr),
@@ -63,20 +68,20 @@ int CToolBarEventImp::OnCreate()
     if (m_pLogo) {
         m_pLogo->SetImage(L"Tallix_LOGO.png");
         const tagRECT rcLogo{ 20, 0, 320, 59 };
-        m_pLogo->Create(L"", 0x50000000, rcLogo, GetUIWnd(), static_cast<unsigned int>(-1));
+        m_pLogo->Create(L"", kLogoStyle, rcLogo, GetUIWnd(), kNoId);
     }
     // Clicks reach OnBtn... through the view's map, not a button handler.
+    // In the order of kToolButtons.
+    CSFButton** const targets[] = { &m_pBtnAbout, &m_pBtnMin, &m_pBtnClose };
+    int made = 0;
     for (const ToolButton& b : kToolButtons) {
         CSFButton* button = SFCreateButton(nullptr);
-        this->*b.slot = button;
+        *targets[made++] = button;
         if (!button)
             continue;
-        button->Create(L"", 0x10000000, b.rect, GetUIWnd(), b.id);
-        ImageButtonStyle style;
-        style.strNormal = b.images[0];
-        style.strHover = b.images[1];
-        style.strPressed = b.images[2];
-        style.strDisabled = b.images[3];
+        button->Create(L"", SF_WS_VISIBLE, b.rect, GetUIWnd(), b.id);
+        ImageButtonStyle style =
+            SFImageButtonStyle(b.images[0], b.images[1], b.images[2], b.images[3]);
         button->SetSkin(&style);
         if (b.tooltipEnable)
             button->SetTooltipEnable(1);
@@ -87,12 +92,7 @@ int CToolBarEventImp::OnCreate()
 
 void CToolBarEventImp::OnDestroy()
 {
-    SFDestroyControl(m_pBtnMin);
-    m_pBtnMin = nullptr;
-    SFDestroyControl(m_pBtnClose);
-    m_pBtnClose = nullptr;
-    SFDestroyControl(m_pBtnAbout);
-    m_pBtnAbout = nullptr;
+    SFReleaseControls(m_pBtnMin, m_pBtnClose, m_pBtnAbout);
 }
 
 void CToolBarEventImp::OnBtnMin()
@@ -108,7 +108,7 @@ void CToolBarEventImp::OnBtnClose()
         return;
     // Hidden first: however long the shutdown takes, no window is left on screen.
     dlg->ShowWindow(0);
-    dlg->SendDlgMessage(16, 0, 0);
+    dlg->SendDlgMessage(kCloseMessage, 0, 0);
 }
 
 void CToolBarEventImp::OnBtnAbout()

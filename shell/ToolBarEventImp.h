@@ -13,6 +13,9 @@ class CSFPictureCtrl;
 class CToolBarEventImp : public ISFViewEvent, public ISFButtonEvent, public ISFRadioBoxEvent {
     SF_DECLARE_MSGMAP()
 public:
+    // Control ids of the buttons, left to right: About, minimise, close.
+    enum : unsigned int { IdAbout = 2025, IdMin = 2001, IdClose = 2003 };
+
     explicit CToolBarEventImp(CMainDlgEventImp* pMain);
     CToolBarEventImp(const CToolBarEventImp&) = delete;
     CToolBarEventImp& operator=(const CToolBarEventImp&) = delete;
@@ -25,6 +28,7 @@ public:
     void OnBtnClose();
     void OnBtnAbout();
 
+private:
     CSFPictureCtrl* m_pLogo;
     CMainDlgEventImp* m_pMain;
     CSFButton* m_pBtnClose;

@@ -1,20 +1,17 @@
+#include "Config/VexUISetting.h"
+#include "language/LangString.h"
+#include "sf/DialogStyle.h"
+#include "sf/qt/SFApplication.h"
+#include "sf/qt/SFQtConvert.h"
+#include "shell/MainDlgEventImp.h"
+#include "shell/MainWindowBringUp.h"
+#include "shell/ToolBarEventImp.h"
+
 #include <QAbstractButton>
 #include <QApplication>
-#include <QIcon>
 #include <QLoggingCategory>
 #include <QTimer>
 #include <QWidget>
-#include <string>
-
-#include "Config/ConfigXMLPersistImp.h"
-#include "sf/DialogStyle.h"
-#include "language/LangString.h"
-#include "shell/MainDlgEventImp.h"
-#include "shell/MainWindowBringUp.h"
-#include "sf/qt/SFApplication.h"
-#include "sf/SFFactory.h"
-#include "sf/qt/SFQtConvert.h"
-#include "Config/VexUISetting.h"
 
 Q_LOGGING_CATEGORY(lcStart, "tallix.start", QtWarningMsg)
 
@@ -40,13 +37,6 @@ void LogStartState(const QApplication& app, CMainDlgEventImp* event)
                 w->isVisible() ? "shown" : "hidden", qUtf8Printable(w->windowTitle()));
 }
 
-// Desktops match the window to tallix.desktop and show its icon.
-void JoinTheDesktop()
-{
-    QGuiApplication::setDesktopFileName(QStringLiteral("tallix"));
-    QApplication::setWindowIcon(QIcon(g_strSkinPath + QStringLiteral("tallix.png")));
-}
-
 // TALLIX_EXIT_AFTER_START=1, for the tests that run the program: once the
 // event loop runs, click the toolbar's close button as a user would.
 void CloseOnceRunningIfAsked(CMainDlgEventImp* event)
@@ -54,28 +44,31 @@ void CloseOnceRunningIfAsked(CMainDlgEventImp* event)
     if (qEnvironmentVariableIntValue("TALLIX_EXIT_AFTER_START") != 1)
         return;
     QWidget* window = MainWidget(event);
-    auto* close = window ? window->findChild<QAbstractButton*>(QStringLiteral("button_2003")) : nullptr;
+    const QString name = QStringLiteral("button_%1").arg(CToolBarEventImp::IdClose);
+    auto* close = window ? window->findChild<QAbstractButton*>(name) : nullptr;
     if (close)
         QTimer::singleShot(0, close, &QAbstractButton::click);
     else
         QTimer::singleShot(0, qApp, &QCoreApplication::quit);
 }
 
+// Without a session bus (a bare X server, a kiosk) libdbus would start one
+// through dbus-launch, which writes under the home folder; the program writes
+// nothing, and needs no bus of its own. An address nothing listens on keeps
+// libdbus from looking further.
+void KeepFromStartingSessionBus()
+{
+    if (qEnvironmentVariableIsEmpty("DBUS_SESSION_BUS_ADDRESS"))
+        qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
+    KeepFromStartingSessionBus();
     QApplication app(argc, argv);
-    SFInitUI();
-    SFSetApplication(&app);
-    std::wstring strAppDir = SFGetAppPath();
-    SFSetSkinPath((strAppDir + L"/Bin/Skin/").c_str());
-    SFLoadStyleSheet(strAppDir + L"/Tallix_Style.css");
-    JoinTheDesktop();
-    ReadLanguageChoice();
-
-    g_UISetting.SetPersistent(new CConfigXMLPersistImp(std::string()));
-    g_UISetting.Load();
+    PrepareProgram(app);
 
     DialogStyle style;
     CMainDlgEventImp* pMainEvent = nullptr;
@@ -86,10 +79,6 @@ int main(int argc, char** argv)
     // The close button ends the loop by closing the last window.
     app.exec();
 
-    SFDestroyControl(pMainDlg);
-    pMainDlg = nullptr;
-    SFUninitUI();
-    delete pMainEvent;
-    pMainEvent = nullptr;
+    TearDownProgram(pMainDlg, pMainEvent);
     return 0;
 }

@@ -1,5 +1,7 @@
 #include "streams/ChannelRowStyles.h"
 
+#include "sf/dialogs/SFSkinRecords.h"
+
 ListCtrlStyle ChannelListStyle()
 {
     ListCtrlStyle style;
@@ -17,22 +19,13 @@ ListCtrlStyle ChannelListStyle()
 
 ImageButtonStyle AddButtonStyle()
 {
-    ImageButtonStyle style;
-    style.strNormal = L"add_nor.png";
-    style.strHover = L"add_hove.png";
-    style.strPressed = L"add_press.png";
-    style.strDisabled = L"add_dis.png";
-    return style;
+    return SFImageButtonStyle(L"add_nor.png", L"add_hove.png", L"add_press.png", L"add_dis.png");
 }
 
 ImageButtonStyle ClearButtonStyle()
 {
-    ImageButtonStyle style;
-    style.strNormal = L"delect_nor.png";
-    style.strHover = L"delect_press.png";
-    style.strPressed = L"delect_press.png";
-    style.strDisabled = L"delect_dis.png";
-    return style;
+    return SFImageButtonStyle(L"delect_nor.png", L"delect_press.png", L"delect_press.png",
+                              L"delect_dis.png");
 }
 
 ImageNumSpinerStyle ChannelSpinerStyle()
@@ -44,36 +37,19 @@ ImageNumSpinerStyle ChannelSpinerStyle()
 
 ImageComboBoxStyle RowComboStyle()
 {
-    ImageComboBoxStyle style;
-    style.strImage = L"comobobox_nor.png";
-    style.strNormal = L"0,0,130,25";
-    style.strHover = L"0,0,130,25";
-    style.strPressedDown = L"0,78,130,26";
-    style.strPressedUp = L"0,26,130,26";
-    style.strDisabled = L"0,26,130,25";
-    style.strSlice6 = L"0,0,130,25";
-    style.strSlice7 = L"0,26,130,25";
-    return style;
+    return SFImageComboBoxStyle(L"comobobox_nor.png",
+                                { L"0,0,130,25", L"0,0,130,25", L"0,78,130,26", L"0,26,130,26",
+                                  L"0,26,130,25", L"0,0,130,25", L"0,26,130,25" });
 }
 
 ImageRadioBox AudioToggleStyle()
 {
-    ImageRadioBox style;
-    style.strCheckedNormal = L"list_open_nor.png";
-    style.strCheckedHover = L"list_open_nor.png";
-    style.strCheckedPressed = L"list_open_nor.png";
-    style.strUncheckedNormal = L"list_close_nor.png";
-    style.strUncheckedHover = L"list_close_nor.png";
-    style.strUncheckedPressed = L"list_open_nor.png";
-    return style;
+    return SFImageRadioBox(L"list_open_nor.png", L"list_open_nor.png", L"list_open_nor.png",
+                           L"list_close_nor.png", L"list_close_nor.png", L"list_open_nor.png");
 }
 
 ImageButtonStyle DeleteButtonStyle()
 {
-    ImageButtonStyle style;
-    style.strNormal = L"list_clear_nor.png";
-    style.strHover = L"list_clear_hover.png";
-    style.strPressed = L"list_clear_nor.png";
-    style.strDisabled = L"list_clear_dis.png";
-    return style;
+    return SFImageButtonStyle(L"list_clear_nor.png", L"list_clear_hover.png",
+                              L"list_clear_nor.png", L"list_clear_dis.png");
 }

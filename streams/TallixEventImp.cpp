@@ -2,6 +2,7 @@
 
 #include "calculator/CalculatorBottom.h"
 #include "streams/ChannelRowStyles.h"
+#include "streams/rows/ChannelRowBinder.h"
 #include "language/LangString.h"
 #include "sf/SFButton.h"
 #include "sf/SFFactory.h"
@@ -10,6 +11,8 @@
 #include "sf/qt/SFQtConvert.h"
 #include "sf/SFStatic.h"
 #include "sf/SFView.h"
+#include "sf/dialogs/SFControlNames.h"
+#include "sf/dialogs/SFReleaseControls.h"
 #include "preview/ScenePreview.h"
 
 #include <QWidget>
@@ -20,10 +23,36 @@ namespace {
 constexpr unsigned int kAddButtonId = 0x803;
 constexpr unsigned int kClearButtonId = 0xBCC;
 constexpr unsigned int kListId = 0x7DE;
+// Commands that no control of the page sends: kept as the page's map has them.
+constexpr unsigned int kCommand2010Id = 0x7DA;
+constexpr unsigned int kCommand2009Id = 0x7D9;
+constexpr unsigned int kInsertBlankRowId = 0x812;
+// Notification codes of the list: a click and a selection change.
+constexpr unsigned int kListClickCode = 3;
+constexpr unsigned int kListSelectCode = 2;
+constexpr unsigned int kNoId = static_cast<unsigned int>(-1);
 constexpr unsigned long kChildStyle = 0x10000000ul;
 constexpr unsigned long kLabelStyle = 0x10010000ul;
+// DT_VCENTER | DT_SINGLELINE
+constexpr unsigned int kLabelAlign = 0x24;
+constexpr int kLabelTextSize = 16;
+constexpr unsigned long kListExtendedStyle = 0x20;
 constexpr int kColumnCount = 9;
 constexpr int kMaxChannels = 9999;
+
+// The table and the calculator below it, inset from the page's sides.
+constexpr int kSideInset = 25;
+constexpr int kListTop = 56;
+constexpr int kCalculatorTop = 393;
+constexpr int kCalculatorBottom = 680;
+// Column widths are shares of this, adding up to more on purpose.
+constexpr int kColumnBase = 1050;
+
+// Where the stream editor asks for the table: collapsed or with sub streams.
+constexpr int kEditorListLeft = 10;
+constexpr int kEditorListMargin = 20;
+constexpr int kEditorListTop[2] = { 121, 201 };
+constexpr int kEditorListHeight[2] = { 300, 220 };
 
 const wchar_t* const kColumnKeys[kColumnCount] = { L"NO.",         L"Channels",
                                                    L"Compression", L"Environment",
@@ -32,11 +61,7 @@ const wchar_t* const kColumnKeys[kColumnCount] = { L"NO.",         L"Channels",
                                                    L"Operation" };
 const double kColumnFactors[kColumnCount] = { 0.05, 0.085, 0.135, 0.185, 0.145,
                                               0.185, 0.07,  0.14,  0.12 };
-
-std::wstring Lang(const wchar_t* key)
-{
-    return GetLangString(key, 0);
-}
+const wchar_t* const kEnvironmentKeys[4] = { L"Preview", L"Scene 1", L"Scene 2", L"Scene 3" };
 
 // A label stands over its button and lets the clicks through to it, as a
 // plain static does on the original platform.
@@ -51,13 +76,13 @@ void LayLabelOverButton(CSFStatic* label)
 } // namespace
 
 SF_BEGIN_MSGMAP(CTallixEventImp)
-    SF_ON_COMMAND(0x7DA, OnCommand2010)
-    SF_ON_COMMAND(0x7D9, OnCommand2009)
-    SF_ON_COMMAND(0x803, OnAddStreaming)
-    SF_ON_COMMAND(0x812, OnInsertBlankRow)
-    SF_ON_COMMAND(0xBCC, OnClearAll)
-    SF_ON_NOTIFY(3, 0x7DE, OnListNotify1)
-    SF_ON_NOTIFY(2, 0x7DE, OnListNotify2)
+    SF_ON_COMMAND(kCommand2010Id, OnCommand2010)
+    SF_ON_COMMAND(kCommand2009Id, OnCommand2009)
+    SF_ON_COMMAND(kAddButtonId, OnAddStreaming)
+    SF_ON_COMMAND(kInsertBlankRowId, OnInsertBlankRow)
+    SF_ON_COMMAND(kClearButtonId, OnClearAll)
+    SF_ON_NOTIFY(kListClickCode, kListId, OnListNotify1)
+    SF_ON_NOTIFY(kListSelectCode, kListId, OnListNotify2)
 SF_END_MSGMAP()
 
 CTallixEventImp::CTallixEventImp(CMainDlgEventImp* owner)
@@ -84,75 +109,83 @@ int CTallixEventImp::HostWidth() const
     return client.right;
 }
 
+struct CTallixEventImp::LabelledButton {
+    const wchar_t* key;
+    tagRECT labelRect;
+    tagRECT buttonRect;
+    unsigned int id;
+    ImageButtonStyle (*style)();
+    const char* labelName;
+};
+
+void CTallixEventImp::CreateLabelledButton(const LabelledButton& place, CSFStatic*& label,
+                                           CSFButton*& button)
+{
+    const std::wstring text = LangText(place.key);
+    label = SFCreateStatic(nullptr);
+    if (label) {
+        label->Create(text.c_str(), kLabelStyle, place.labelRect, GetUIWnd(), kNoId);
+        label->SetTextAlignFlag(kLabelAlign);
+        label->SetTextSize(kLabelTextSize);
+        label->ShowWindow(1);
+        SFSetObjectName(label, place.labelName);
+    }
+    button = SFCreateButton(this);
+    if (button) {
+        button->Create(L"", kChildStyle, place.buttonRect, GetUIWnd(), place.id);
+        ImageButtonStyle skin = place.style();
+        button->SetSkin(&skin);
+        button->SetTextColor(0);
+        button->ShowWindow(1);
+        // The picture carries no words: the label over it names it.
+        SFSetAccessibleName(button, text.c_str());
+    }
+}
+
 int CTallixEventImp::OnCreate()
 {
     const int width = HostWidth();
 
-    m_pLabelAdd = SFCreateStatic(nullptr);
-    if (m_pLabelAdd) {
-        m_pLabelAdd->Create(Lang(L"Add Streaming").c_str(), kLabelStyle,
-                            tagRECT{ 50, 15, 145, 41 }, GetUIWnd(), static_cast<unsigned int>(-1));
-        m_pLabelAdd->SetTextAlignFlag(0x24);
-        m_pLabelAdd->SetTextSize(16);
-        m_pLabelAdd->ShowWindow(1);
-    }
-    m_pBtnAdd = SFCreateButton(this);
-    if (m_pBtnAdd) {
-        m_pBtnAdd->Create(L"", kChildStyle, tagRECT{ 24, 10, 155, 46 }, GetUIWnd(), kAddButtonId);
-        ImageButtonStyle style = AddButtonStyle();
-        m_pBtnAdd->SetSkin(&style);
-        m_pBtnAdd->SetTextColor(0);
-        m_pBtnAdd->ShowWindow(1);
-    }
-    m_pLabelClear = SFCreateStatic(nullptr);
-    if (m_pLabelClear) {
-        m_pLabelClear->Create(Lang(L"Clear All").c_str(), kLabelStyle,
-                              tagRECT{ 195, 15, 295, 41 }, GetUIWnd(),
-                              static_cast<unsigned int>(-1));
-        m_pLabelClear->SetTextAlignFlag(0x24);
-        m_pLabelClear->SetTextSize(16);
-        m_pLabelClear->ShowWindow(1);
-    }
-    m_pBtnClear = SFCreateButton(this);
-    if (m_pBtnClear) {
-        m_pBtnClear->Create(L"", kChildStyle, tagRECT{ 170, 10, 270, 46 }, GetUIWnd(),
-                            kClearButtonId);
-        ImageButtonStyle style = ClearButtonStyle();
-        m_pBtnClear->SetSkin(&style);
-        m_pBtnClear->SetTextColor(0);
-        m_pBtnClear->ShowWindow(1);
-    }
+    static const LabelledButton kAddStreaming{ L"Add Streaming",  { 50, 15, 145, 41 },
+                                               { 24, 10, 155, 46 }, kAddButtonId,
+                                               &AddButtonStyle,     "label_add" };
+    static const LabelledButton kClearAll{ L"Clear All",          { 195, 15, 295, 41 },
+                                           { 170, 10, 270, 46 }, kClearButtonId,
+                                           &ClearButtonStyle,    "label_clear" };
+    CreateLabelledButton(kAddStreaming, m_pLabelAdd, m_pBtnAdd);
+    CreateLabelledButton(kClearAll, m_pLabelClear, m_pBtnClear);
     LayLabelOverButton(m_pLabelAdd);
     LayLabelOverButton(m_pLabelClear);
 
     m_pList = SFCreateListCtrl(this);
+    SFSetListRowBinder(m_pList, std::make_unique<CChannelRowBinder>());
     if (m_pList) {
         ListCtrlStyle style = ChannelListStyle();
         m_pList->SetSkin(&style);
-        m_pList->Create(kChildStyle, tagRECT{ 25, 56, width - 25, 393 }, GetUIWnd(), kListId,
-                        true);
+        m_pList->Create(kChildStyle, tagRECT{ kSideInset, kListTop, width - kSideInset,
+                                              kCalculatorTop },
+                        GetUIWnd(), kListId, true);
         m_pList->ShowWindow(1);
-        m_pList->SetExtendedStyle(0x20);
+        m_pList->SetExtendedStyle(kListExtendedStyle);
         // The "NO." column numbers the rows; a second count beside it is noise.
         m_pList->SetVerticalHeaderHide();
         for (int i = 0; i < kColumnCount; ++i)
-            m_pList->InsertColumn(i, Lang(kColumnKeys[i]).c_str(), 0, -1, -1);
+            m_pList->InsertColumn(i, LangText(kColumnKeys[i]).c_str(), 0, -1, -1);
         m_pList->SetArea(g_nLanguage);
     }
 
     m_pCalculatorView = SFCreateView(m_pCalculator);
     if (m_pCalculatorView) {
         m_pCalculatorView->SetBackground(L"BottomBg(2).png");
-        const tagRECT page{ 25, 393, width - 25, 680 };
+        const tagRECT page{ kSideInset, kCalculatorTop, width - kSideInset, kCalculatorBottom };
         m_pCalculator->SetPageRect(page);
         m_pCalculatorView->Create(L"", L"", kChildStyle, page, GetUIWnd(), 0);
         m_pCalculatorView->ShowWindow(1);
     }
 
-    // The widths add up to more than 1050 on purpose.
     if (m_pList) {
         for (int i = 0; i < kColumnCount; ++i)
-            m_pList->SetColumnWidth(i, static_cast<int>(1050 * kColumnFactors[i]));
+            m_pList->SetColumnWidth(i, static_cast<int>(kColumnBase * kColumnFactors[i]));
     }
 
     // The calculator starts from totals of 0.
@@ -162,16 +195,7 @@ int CTallixEventImp::OnCreate()
 
 void CTallixEventImp::OnDestroy()
 {
-    SFDestroyControl(m_pList);
-    SFDestroyControl(m_pLabelAdd);
-    SFDestroyControl(m_pLabelClear);
-    SFDestroyControl(m_pBtnAdd);
-    SFDestroyControl(m_pBtnClear);
-    m_pList = nullptr;
-    m_pLabelAdd = nullptr;
-    m_pLabelClear = nullptr;
-    m_pBtnAdd = nullptr;
-    m_pBtnClear = nullptr;
+    SFReleaseControls(m_pList, m_pLabelAdd, m_pLabelClear, m_pBtnAdd, m_pBtnClear);
     // Goes down with the host window as its child.
     m_pCalculatorView = nullptr;
 }
@@ -233,26 +257,24 @@ void CTallixEventImp::OnAddStreaming()
         return;
     const int row = m_pList->GetItemCount();
     m_pList->InsertItem(row, L"");
-    m_szEnvironmentTexts[0] = Lang(L"Preview");
-    m_szEnvironmentTexts[1] = Lang(L"Scene 1");
-    m_szEnvironmentTexts[2] = Lang(L"Scene 2");
-    m_szEnvironmentTexts[3] = Lang(L"Scene 3");
+    for (int i = 0; i < 4; ++i)
+        m_szEnvironmentTexts[i] = LangText(kEnvironmentKeys[i]);
     m_pList->SetItemText(row, 0, std::to_wstring(row + 1).c_str());
     m_pList->SetItemNumSpiner(row, 1, kMaxChannels, 1, row, ChannelSpinerStyle());
 
     const ImageComboBoxStyle combo = RowComboStyle();
-    m_pList->SetItemComboBox(1, row, 2, row, combo, Lang(L"--Compression--").c_str(), nullptr,
+    m_pList->SetItemComboBox(1, row, 2, row, combo, LangText(L"--Compression--").c_str(), nullptr,
                              nullptr);
-    m_pList->SetItemComboBox(0, row, 3, row, combo, Lang(L"--Environment--").c_str(), nullptr,
+    m_pList->SetItemComboBox(0, row, 3, row, combo, LangText(L"--Environment--").c_str(), nullptr,
                              m_szEnvironmentTexts);
-    m_pList->SetItemComboBox(2, row, 4, row, combo, Lang(L"--Resolution--").c_str(), nullptr,
+    m_pList->SetItemComboBox(2, row, 4, row, combo, LangText(L"--Resolution--").c_str(), nullptr,
                              nullptr);
-    m_pList->SetItemComboBox(3, row, 5, row, combo, Lang(L"--FrameRate--").c_str(),
-                             Lang(L"Customize").c_str(), nullptr);
+    m_pList->SetItemComboBox(3, row, 5, row, combo, LangText(L"--FrameRate--").c_str(),
+                             LangText(L"Customize").c_str(), nullptr);
     m_pList->SetItemCheckWidget(row, 6, AudioToggleStyle());
     m_pList->SetItemEditCtrl(row, 7, 0);
     const ImageButtonStyle remove = DeleteButtonStyle();
-    m_pList->SetItemWidget(row, 8, Lang(L"Delete").c_str(), nullptr, remove, remove);
+    m_pList->SetItemWidget(row, 8, LangText(L"Delete").c_str(), nullptr, remove, remove);
 }
 
 void CTallixEventImp::OnInsertBlankRow()
@@ -287,11 +309,9 @@ void CTallixEventImp::ResizeList(int expanded)
 {
     if (!m_pList)
         return;
-    const int width = HostWidth() - 20;
-    if (expanded == 0)
-        m_pList->MoveWindow(10, 121, width, 300);
-    else
-        m_pList->MoveWindow(10, 201, width, 220);
+    const int layout = expanded == 0 ? 0 : 1;
+    m_pList->MoveWindow(kEditorListLeft, kEditorListTop[layout], HostWidth() - kEditorListMargin,
+                        kEditorListHeight[layout]);
 }
 
 // The page keeps its rows in the table; a group of streams is not taken in.
@@ -302,4 +322,10 @@ void CTallixEventImp::AddStreams(std::map<int, StreamInfo>, int)
 bool CTallixEventImp::CanEnableList()
 {
     return true;
+}
+
+void CTallixEventImp::EnableList()
+{
+    if (m_pList)
+        m_pList->EnableWindow(1);
 }

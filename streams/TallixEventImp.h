@@ -61,14 +61,24 @@ public:
     void ResizeList(int expanded);
     void AddStreams(std::map<int, StreamInfo> streams, int channels);
     bool CanEnableList();
+    void EnableList();
+
+    // The calculator panel in the lower part of the page.
+    CCalculatorBottom* GetCalculator() const { return m_pCalculator; }
+    // The row that the last click on the table selected.
+    int GetSelectedRow() const { return m_nSelectedRow; }
 
 private:
     // Right edge of the host view's client rectangle.
     int HostWidth() const;
+    // Where and how a button above the table and its word label stand.
+    struct LabelledButton;
+    // The label laid over its image button.
+    void CreateLabelledButton(const LabelledButton& place, CSFStatic*& label,
+                              CSFButton*& button);
     // Column 0 reads 1, 2, 3 ... again.
     void NumberRows();
 
-public:
     CMainDlgEventImp* m_pOwner;
     std::wstring m_szEnvironmentTexts[4];
     CSFListCtrl* m_pList;

@@ -9,6 +9,8 @@
 #include "sf/SFListCtrl.h"
 #include "sf/SFNumSpiner.h"
 #include "sf/SFStatic.h"
+#include "sf/dialogs/SFControlNames.h"
+#include "sf/dialogs/SFSkinRecords.h"
 #include "streams/TallixEventImp.h"
 
 #include <string>
@@ -39,6 +41,14 @@ constexpr int kButtonWidth = 72;
 constexpr int kButtonHeight = 25;
 constexpr int kToggleLeft = 10;
 constexpr int kToggleWidth = 150;
+constexpr unsigned long kToggleTextColor = 0xFF0000;
+constexpr int kLabelTextSize = 15;
+// DT_VCENTER; DT_RIGHT | DT_VCENTER
+constexpr unsigned int kAlignMiddle = 4;
+constexpr unsigned int kAlignRightMiddle = 6;
+// The channel count stands right, on the row of "Ok".
+constexpr tagRECT kChannelsLabelRect{ 769, 44, 869, 69 };
+constexpr tagRECT kChannelsSpinRect{ 879, 44, 979, 69 };
 constexpr int kAddLeft = 822;
 constexpr int kClearLeft = 904;
 // "Ok" stays beside the channel count: the toggle moves only the row below.
@@ -49,6 +59,12 @@ constexpr int kMaxChannels = 256;
 
 const wchar_t* const kRowKeys[CViewChannelInfoEditor::StreamCount] = {
     L"Main Stream:", L"Sub1 Stream:", L"Sub2 Stream:"
+};
+const char* const kRowLabelNames[CViewChannelInfoEditor::StreamCount] = {
+    "label_stream_0", "label_stream_1", "label_stream_2"
+};
+const char* const kUnitLabelNames[CViewChannelInfoEditor::StreamCount] = {
+    "label_unit_0", "label_unit_1", "label_unit_2"
 };
 const wchar_t* const kResolutions[] = { L"1MP", L"1.3MP", L"2MP", L"3MP", L"4MP",
                                         L"5MP", L"6MP",   L"8MP", L"12MP" };
@@ -64,31 +80,14 @@ std::wstring Slice(int y, int width, int height)
 
 ImageComboBoxStyle EditorComboStyle(int width)
 {
-    ImageComboBoxStyle style;
-    style.strImage = width == kWideCombo ? L"ComboBox_150.png" : L"ComboBox.png";
-    style.strNormal = Slice(0, width, 27);
-    style.strHover = Slice(0, width, 27);
-    style.strPressedDown = Slice(84, width, 28);
-    style.strPressedUp = Slice(28, width, 28);
-    style.strDisabled = Slice(28, width, 27);
-    style.strSlice6 = Slice(0, width, 27);
-    style.strSlice7 = Slice(28, width, 27);
-    style.strNormalMode = L"tile";
-    style.strHoverMode = L"tile";
-    style.strPressedUpMode = L"tile";
-    style.strPressedDownMode = L"tile";
-    style.strDisabledMode = L"tile";
-    style.strSlice6Mode = L"tile";
-    return style;
-}
-
-ImageButtonStyle EditorButtonStyle()
-{
-    ImageButtonStyle style;
-    style.strNormal = L"btn_normal.png";
-    style.strHover = L"btn_hover.png";
-    style.strPressed = L"btn_press.png";
-    style.strDisabled = L"btn_diabled.png";
+    ImageComboBoxStyle style = SFImageComboBoxStyle(
+        width == kWideCombo ? L"ComboBox_150.png" : L"ComboBox.png",
+        { Slice(0, width, 27), Slice(0, width, 27), Slice(84, width, 28), Slice(28, width, 28),
+          Slice(28, width, 27), Slice(0, width, 27), Slice(28, width, 27) });
+    for (std::wstring* mode : { &style.strNormalMode, &style.strHoverMode,
+                                &style.strPressedUpMode, &style.strPressedDownMode,
+                                &style.strDisabledMode, &style.strSlice6Mode })
+        *mode = L"tile";
     return style;
 }
 
@@ -121,6 +120,25 @@ void AddEntries(CSFComboBox* combo, const wchar_t* title, const wchar_t* const* 
         combo->AddString(entries[i]);
 }
 
+tagRECT ButtonRect(int left, int top)
+{
+    return tagRECT{ left, top, left + kButtonWidth, top + kButtonHeight };
+}
+
+CSFButton* MakeButton(CViewChannelInfoEditor* view, const wchar_t* key, const tagRECT& rect,
+                      unsigned int id, unsigned long textColor)
+{
+    CSFButton* button = SFCreateButton(view);
+    if (!button)
+        return nullptr;
+    button->Create(GetLangString(key, 0), SF_WS_VISIBLE, rect, view->GetUIWnd(), id);
+    ImageButtonStyle style = SFImageButtonStyle(L"btn_normal.png", L"btn_hover.png",
+                                                L"btn_press.png", L"btn_diabled.png");
+    button->SetSkin(&style);
+    button->SetTextColor(textColor);
+    return button;
+}
+
 void MoveButton(CSFButton* button, int left, int top, int width)
 {
     if (button)
@@ -130,10 +148,10 @@ void MoveButton(CSFButton* button, int left, int top, int width)
 } // namespace
 
 SF_BEGIN_MSGMAP(CViewChannelInfoEditor)
-    SF_ON_COMMAND(0x804, OnToggleSubStream)
-    SF_ON_COMMAND(0x803, OnAdd)
-    SF_ON_COMMAND(0x805, OnOk)
-    SF_ON_COMMAND(0xBCC, OnClear)
+    SF_ON_COMMAND(IdToggle, OnToggleSubStream)
+    SF_ON_COMMAND(IdAdd, OnAdd)
+    SF_ON_COMMAND(IdOk, OnOk)
+    SF_ON_COMMAND(IdClear, OnClear)
 SF_END_MSGMAP()
 
 CViewChannelInfoEditor::CViewChannelInfoEditor(CTallixEventImp* owner, bool subStreams)
@@ -167,25 +185,30 @@ void CViewChannelInfoEditor::CreateStreamRow(int stream)
         label->Create(GetLangString(kRowKeys[stream], 0), visible ? kLabelVisible : kLabelHidden,
                       RowRect(stream, kLabelLeft, kLabelWidth), parent, kNoId);
         label->SetTextBold(1);
-        label->SetTextSize(15);
-        label->SetTextAlignFlag(4);
+        label->SetTextSize(kLabelTextSize);
+        label->SetTextAlignFlag(kAlignMiddle);
+        SFSetObjectName(label, kRowLabelNames[stream]);
     }
     m_pLabelStream[stream] = label;
 
-    const unsigned int comboBase = static_cast<unsigned int>(stream) * 7u;
+    // The row's label names each control of the row.
+    const std::wstring rowName = LangText(kRowKeys[stream]);
+    const unsigned int comboBase = static_cast<unsigned int>(stream) * IdComboPitch;
+    // Left to right, each after the one before it.
+    const struct {
+        CSFComboBox** combos;
+        unsigned int firstId;
+        int width;
+    } comboRow[] = { { m_pComboCompression, IdCompression, kWideCombo },
+                     { m_pComboResolution, IdResolution, kWideCombo },
+                     { m_pComboFrameRate, IdFrameRate, kWideCombo },
+                     { m_pComboAudio, IdAudio, kAudioCombo } };
     int left = kControlsLeft;
-    m_pComboCompression[stream] =
-        MakeCombo(this, stream, left, kWideCombo, IdCompression + comboBase, visible);
-    left += kWideCombo + kGap;
-    m_pComboResolution[stream] =
-        MakeCombo(this, stream, left, kWideCombo, IdResolution + comboBase, visible);
-    left += kWideCombo + kGap;
-    m_pComboFrameRate[stream] =
-        MakeCombo(this, stream, left, kWideCombo, IdFrameRate + comboBase, visible);
-    left += kWideCombo + kGap;
-    m_pComboAudio[stream] =
-        MakeCombo(this, stream, left, kAudioCombo, IdAudio + comboBase, visible);
-    left += kAudioCombo + kGap;
+    for (const auto& c : comboRow) {
+        c.combos[stream] = MakeCombo(this, stream, left, c.width, c.firstId + comboBase, visible);
+        left += c.width + kGap;
+        SFSetAccessibleName(c.combos[stream], rowName.c_str());
+    }
 
     // Lookups one at a time: the dictionary's buffers rotate.
     if (CSFComboBox* combo = m_pComboCompression[stream]) {
@@ -207,6 +230,7 @@ void CViewChannelInfoEditor::CreateStreamRow(int stream)
         edit->Create(visible ? SF_WS_VISIBLE : 0ul, RowRect(stream, left, kEditWidth), parent,
                      IdBitrate + static_cast<unsigned int>(stream), false);
         edit->SetWindowTextW(L"0");
+        SFSetAccessibleName(edit, rowName.c_str());
     }
     m_pEditBitrate[stream] = edit;
     left += kEditWidth + kGap;
@@ -215,7 +239,8 @@ void CViewChannelInfoEditor::CreateStreamRow(int stream)
     if (unit) {
         unit->Create(L"Kbps", visible ? kLabelVisible : kLabelHidden,
                      RowRect(stream, left, kUnitWidth), parent, kNoId);
-        unit->SetTextAlignFlag(4);
+        unit->SetTextAlignFlag(kAlignMiddle);
+        SFSetObjectName(unit, kUnitLabelNames[stream]);
     }
     m_pLabelUnit[stream] = unit;
 }
@@ -226,15 +251,17 @@ void CViewChannelInfoEditor::CreateChannelsControls()
     m_pLabelChannels = SFCreateStatic(nullptr);
     if (m_pLabelChannels) {
         m_pLabelChannels->Create(GetLangString(L"Channels", 0), kLabelVisible,
-                                 tagRECT{ 769, 44, 869, 69 }, parent, kNoId);
+                                 kChannelsLabelRect, parent, kNoId);
         m_pLabelChannels->SetTextBold(1);
-        m_pLabelChannels->SetTextSize(15);
-        m_pLabelChannels->SetTextAlignFlag(6);
+        m_pLabelChannels->SetTextSize(kLabelTextSize);
+        m_pLabelChannels->SetTextAlignFlag(kAlignRightMiddle);
+        SFSetObjectName(m_pLabelChannels, "label_channels");
     }
 
     m_pSpinChannels = SFCreateNumSpiner(this);
     if (m_pSpinChannels) {
-        m_pSpinChannels->Create(L"", tagRECT{ 879, 44, 979, 69 }, parent, IdChannels);
+        m_pSpinChannels->Create(L"", kChannelsSpinRect, parent, IdChannels);
+        SFSetAccessibleName(m_pSpinChannels, LangText(L"Channels").c_str());
         ImageNumSpinerStyle style;
         style.strFrame = L"bg_time_noal.png";
         m_pSpinChannels->SetSkin(&style);
@@ -247,52 +274,18 @@ void CViewChannelInfoEditor::CreateChannelsControls()
 
 void CViewChannelInfoEditor::CreateButtons()
 {
-    void* parent = GetUIWnd();
     const int top = m_bSubStreams ? kButtonsTopWithSubs : kButtonsTopWithoutSubs;
-    ImageButtonStyle style = EditorButtonStyle();
-
-    m_pBtnToggle = SFCreateButton(this);
-    if (m_pBtnToggle) {
-        const wchar_t* key = m_bSubStreams ? L"Disable Sub Stream" : L"Enable Sub Stream";
-        m_pBtnToggle->Create(GetLangString(key, 0), SF_WS_VISIBLE,
-                             tagRECT{ kToggleLeft, top, kToggleLeft + kToggleWidth,
-                                      top + kButtonHeight },
-                             parent, IdToggle);
-        m_pBtnToggle->SetSkin(&style);
-        m_pBtnToggle->SetTextColor(0xFF0000);
+    const wchar_t* toggleKey = m_bSubStreams ? L"Disable Sub Stream" : L"Enable Sub Stream";
+    m_pBtnToggle = MakeButton(this, toggleKey, tagRECT{ kToggleLeft, top,
+                                                        kToggleLeft + kToggleWidth,
+                                                        top + kButtonHeight },
+                              IdToggle, kToggleTextColor);
+    if (m_pBtnToggle)
         m_pBtnToggle->SetTextAlign(0);
-    }
-
-    if (!m_bEditRow) {
-        m_pBtnClear = SFCreateButton(this);
-        if (m_pBtnClear) {
-            m_pBtnClear->Create(GetLangString(L"Clear", 0), SF_WS_VISIBLE,
-                                tagRECT{ kClearLeft, top, kClearLeft + kButtonWidth,
-                                         top + kButtonHeight },
-                                parent, IdClear);
-            m_pBtnClear->SetSkin(&style);
-            m_pBtnClear->SetTextColor(0);
-        }
-    }
-
-    m_pBtnAdd = SFCreateButton(this);
-    if (m_pBtnAdd) {
-        m_pBtnAdd->Create(GetLangString(L"Add", 0), SF_WS_VISIBLE,
-                          tagRECT{ kAddLeft, top, kAddLeft + kButtonWidth, top + kButtonHeight },
-                          parent, IdAdd);
-        m_pBtnAdd->SetSkin(&style);
-        m_pBtnAdd->SetTextColor(0);
-    }
-
-    m_pBtnOk = SFCreateButton(this);
-    if (m_pBtnOk) {
-        m_pBtnOk->Create(GetLangString(L"Ok", 0), SF_WS_VISIBLE,
-                         tagRECT{ kOkLeft, kOkTop, kOkLeft + kButtonWidth,
-                                  kOkTop + kButtonHeight },
-                         parent, IdOk);
-        m_pBtnOk->SetSkin(&style);
-        m_pBtnOk->SetTextColor(0);
-    }
+    if (!m_bEditRow)
+        m_pBtnClear = MakeButton(this, L"Clear", ButtonRect(kClearLeft, top), IdClear, 0);
+    m_pBtnAdd = MakeButton(this, L"Add", ButtonRect(kAddLeft, top), IdAdd, 0);
+    m_pBtnOk = MakeButton(this, L"Ok", ButtonRect(kOkLeft, kOkTop), IdOk, 0);
 }
 
 void CViewChannelInfoEditor::OnDestroy()
@@ -381,8 +374,8 @@ void CViewChannelInfoEditor::OnAdd()
 
 void CViewChannelInfoEditor::OnOk()
 {
-    if (m_pOwner && m_pOwner->CanEnableList() && m_pOwner->m_pList)
-        m_pOwner->m_pList->EnableWindow(1);
+    if (m_pOwner && m_pOwner->CanEnableList())
+        m_pOwner->EnableList();
 }
 
 void CViewChannelInfoEditor::OnClear()

@@ -42,7 +42,8 @@ public:
         IdAdd = 0x803,
         IdToggle = 0x804,
         IdOk = 0x805,
-        IdClear = 0xBCC
+        IdClear = 0xBCC,
+        IdComboPitch = 7
     };
 
     CViewChannelInfoEditor(CTallixEventImp* owner, bool subStreams);
@@ -88,7 +89,6 @@ private:
     StreamInfo ReadStream(int stream) const;
     double ReadBitrate(int stream) const;
 
-public:
     int m_nCompression[StreamCount];
     CTallixEventImp* m_pOwner;
     bool m_bSubStreams;

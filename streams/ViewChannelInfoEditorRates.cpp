@@ -82,7 +82,8 @@ void SetRateText(CSFEditCtrl* edit, double rate)
 int CViewChannelInfoEditor::StreamOfCombo(int id, unsigned int firstId)
 {
     for (int stream = 0; stream < StreamCount; ++stream) {
-        if (static_cast<unsigned int>(id) == firstId + static_cast<unsigned int>(stream) * 7u)
+        const unsigned int pitch = static_cast<unsigned int>(stream) * IdComboPitch;
+        if (static_cast<unsigned int>(id) == firstId + pitch)
             return stream;
     }
     return -1;
@@ -94,7 +95,7 @@ double CViewChannelInfoEditor::GetEffectiveBitrate(int mode, int audio, int rate
     case 1:
         return audio ? rate * 0.85 : rate * 0.8;
     case 0:
-        return audio ? rate + 64.0 : static_cast<double>(rate);
+        return audio ? rate + kAudioKbps : static_cast<double>(rate);
     default:
         return 0.0;
     }

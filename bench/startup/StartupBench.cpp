@@ -122,6 +122,7 @@ Run RunOnce(const char* program)
 double Quantile(std::vector<double> v, double q)
 {
     std::sort(v.begin(), v.end());
+    // Never negative, so adding a half rounds. NOLINTNEXTLINE(bugprone-incorrect-roundings)
     const size_t i = static_cast<size_t>(q * static_cast<double>(v.size() - 1) + 0.5);
     return v[i];
 }

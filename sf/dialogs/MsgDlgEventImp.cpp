@@ -1,38 +1,60 @@
 #include "sf/dialogs/MsgDlgEventImp.h"
 
 #include "sf/DialogStyle.h"
-#include "sf/ImageButtonStyle.h"
 #include "language/LangString.h"
 #include "sf/SFButton.h"
 #include "sf/SFDialog.h"
 #include "sf/SFFactory.h"
 #include "sf/SFRect.h"
 #include "sf/SFStatic.h"
-
-SF_BEGIN_MSGMAP(CMsgDlgEventImp)
-    SF_ON_COMMAND(2003, OnBtnClose)
-SF_END_MSGMAP()
+#include "sf/dialogs/SFReleaseControls.h"
+#include "sf/dialogs/SFSkinRecords.h"
 
 namespace {
 
+constexpr int kOkId = 1;
+constexpr int kCancelId = 2;
+constexpr unsigned int kCloseButtonId = 2003;
+constexpr unsigned int kEscapeKey = 27;
+constexpr unsigned int kReturnKey = 13;
+constexpr unsigned long kTextStyle = 0x10010000ul;
+constexpr unsigned long kButtonStyle = 0x10000ul;
 constexpr int kTitleHeight = 27;
 constexpr int kMargin = 10;
+constexpr int kTextInset = 20;
 constexpr int kButtonGap = 20;
 constexpr int kMinTextHeight = 50;
 // DT_CENTER | DT_VCENTER | DT_WORDBREAK | DT_EDITCONTROL
 constexpr unsigned int kTextAlign = 8213;
+constexpr unsigned int kPressedTextColor = 0xFFFFFF;
 
-void SkinTextButton(CSFButton* button)
+CSFButton* MakeTextButton(CMsgDlgEventImp* handler, const wchar_t* key, const tagRECT& rect,
+                          unsigned int id)
 {
-    ImageButtonStyle style;
-    style.strNormal = L"btn_normal.png";
-    style.strHover = L"btn_hover.png";
-    style.strPressed = L"btn_press.png";
-    style.strDisabled = L"btn_disabled.png";
+    CSFButton* button = SFCreateButton(handler);
+    if (!button)
+        return nullptr;
+    button->Create(GetLangString(key, 0), kButtonStyle, rect, handler->GetUIWnd(), id);
+    ImageButtonStyle style = SFImageButtonStyle(L"btn_normal.png", L"btn_hover.png",
+                                                L"btn_press.png", L"btn_disabled.png");
     button->SetSkin(&style);
+    button->ShowWindow(0);
+    return button;
+}
+
+void PlaceButton(CSFButton* button, CSFRect* rect)
+{
+    if (!button)
+        return;
+    button->MoveWindow(rect);
+    button->ShowWindow(1);
 }
 
 } // namespace
+
+SF_BEGIN_MSGMAP(CMsgDlgEventImp)
+    SF_ON_COMMAND(kCloseButtonId, OnBtnClose)
+SF_END_MSGMAP()
 
 CMsgDlgEventImp::CMsgDlgEventImp(const wchar_t* text, const wchar_t* title, int btnMode,
                                  int reserved)
@@ -50,13 +72,8 @@ void CMsgDlgEventImp::GetStyle(DialogStyle& style)
 {
     // Short sides and a wider bottom, for a box that may be only 140 high.
     style = SFSmallDialogStyle();
-    style.strLeftTop = L"0,37,1,30";
-    style.strLeft = L"0,37,1,30";
-    style.strLeftBottom = L"0,37,1,30";
+    SFSetDialogSides(style, L"0,37,1,30", L"147,37,1,30");
     style.strBottom = L"10,130,30,10";
-    style.strRightBottom = L"147,37,1,30";
-    style.strRight = L"147,37,1,30";
-    style.strRightTop = L"147,37,1,30";
     style.strRoundCorner = L"4,5";
 }
 
@@ -70,13 +87,13 @@ int CMsgDlgEventImp::Dlg_OnInitDialog(bool bCreateOnly)
     CSFRect rcText = rcDlg;
     rcText.top = kTitleHeight + kMargin;
     rcText.bottom -= rcBtn.Height() + kMargin;
-    rcText.left += 20;
-    rcText.right -= 20;
+    rcText.left += kTextInset;
+    rcText.right -= kTextInset;
 
     m_pText = SFCreateStatic(nullptr);
     if (m_pText) {
         m_pText->SetTextAlignFlag(kTextAlign);
-        m_pText->Create(m_strText.c_str(), 0x10010000, rcText, GetUIWnd(), 0);
+        m_pText->Create(m_strText.c_str(), kTextStyle, rcText, GetUIWnd(), 0);
         int w = 0;
         int h = 0;
         m_pText->GetTextSize(w, h);
@@ -89,52 +106,24 @@ int CMsgDlgEventImp::Dlg_OnInitDialog(bool bCreateOnly)
         m_pText->MoveWindow(&rcText);
     }
 
-    m_pBtnOK = SFCreateButton(this);
-    if (m_pBtnOK) {
-        m_pBtnOK->Create(GetLangString(L"OK", 0), 0x10000, rcBtn, GetUIWnd(), 1);
-        SkinTextButton(m_pBtnOK);
-        m_pBtnOK->ShowWindow(0);
-    }
-    m_pBtnCancel = SFCreateButton(this);
-    if (m_pBtnCancel) {
-        m_pBtnCancel->Create(GetLangString(L"Cancel", 0), 0x10000, rcBtn, GetUIWnd(), 2);
-        SkinTextButton(m_pBtnCancel);
-        m_pBtnCancel->ShowWindow(0);
-    }
+    m_pBtnOK = MakeTextButton(this, L"OK", rcBtn, kOkId);
+    m_pBtnCancel = MakeTextButton(this, L"Cancel", rcBtn, kCancelId);
 
     rcBtn.MoveToY(rcText.bottom + kMargin);
     if (m_nBtnMode == 0) {
         rcBtn.MoveToX((rcDlg.Width() - rcBtn.Width()) / 2);
-        if (m_pBtnOK) {
-            m_pBtnOK->MoveWindow(&rcBtn);
-            m_pBtnOK->ShowWindow(1);
-        }
+        PlaceButton(m_pBtnOK, &rcBtn);
     } else if (m_nBtnMode == 1) {
         rcBtn.MoveToX((rcDlg.Width() - rcBtn.Width() * 2 - kButtonGap) / 2);
-        if (m_pBtnOK) {
-            m_pBtnOK->MoveWindow(&rcBtn);
-            m_pBtnOK->ShowWindow(1);
-        }
+        PlaceButton(m_pBtnOK, &rcBtn);
         rcBtn.OffsetRect(rcBtn.Width() + kButtonGap, 0);
-        if (m_pBtnCancel) {
-            m_pBtnCancel->MoveWindow(&rcBtn);
-            m_pBtnCancel->ShowWindow(1);
-        }
+        PlaceButton(m_pBtnCancel, &rcBtn);
     }
     rcDlg.bottom = rcBtn.bottom + kMargin;
 
-    m_pBtnClose = SFCreateButton(nullptr);
-    if (m_pBtnClose) {
-        const tagRECT rcClose{ rcDlg.Width() - 22, 5, rcDlg.Width() - 5, 21 };
-        m_pBtnClose->Create(L"", 0x10000000, rcClose, GetUIWnd(), 2003);
-        ImageButtonStyle style;
-        style.strNormal = L"close-normal.png";
-        style.strHover = L"close-hover.png";
-        style.strPressed = L"close-pressed.png";
-        style.strDisabled = L"close-disabled.png";
-        m_pBtnClose->SetSkin(&style);
-        m_pBtnClose->SetToolTipText(GetLangString(L"Close", 0));
-    }
+    m_pBtnClose = SFCreateCloseButton(
+        nullptr, tagRECT{ rcDlg.Width() - 22, 5, rcDlg.Width() - 5, 21 }, GetUIWnd(),
+        kCloseButtonId);
 
     if (m_pDlg) {
         m_pDlg->MoveWindow(&rcDlg);
@@ -157,39 +146,32 @@ void CMsgDlgEventImp::OnDlgSize(unsigned int, int&, int&)
 
 void CMsgDlgEventImp::Dlg_Destroy()
 {
-    SFDestroyControl(m_pBtnOK);
-    m_pBtnOK = nullptr;
-    SFDestroyControl(m_pBtnCancel);
-    m_pBtnCancel = nullptr;
-    SFDestroyControl(m_pBtnClose);
-    m_pBtnClose = nullptr;
-    SFDestroyControl(m_pText);
-    m_pText = nullptr;
+    SFReleaseControls(m_pBtnOK, m_pBtnCancel, m_pBtnClose, m_pText);
 }
 
 void CMsgDlgEventImp::OnDlgKeyDown(unsigned int, unsigned int key)
 {
     if (!m_pDlg)
         return;
-    if (key == 27)
+    if (key == kEscapeKey)
         m_pDlg->MFCCancel();
-    else if (key == 13)
+    else if (key == kReturnKey)
         m_pDlg->MFCOK();
 }
 
 void CMsgDlgEventImp::BTN_OnLButtonDown(int id, unsigned int, tagPOINT)
 {
-    if (id == 1 && m_pBtnOK)
-        m_pBtnOK->SetTextColor(0xFFFFFF);
-    else if (id == 2 && m_pBtnCancel)
-        m_pBtnCancel->SetTextColor(0xFFFFFF);
+    if (id == kOkId && m_pBtnOK)
+        m_pBtnOK->SetTextColor(kPressedTextColor);
+    else if (id == kCancelId && m_pBtnCancel)
+        m_pBtnCancel->SetTextColor(kPressedTextColor);
 }
 
 void CMsgDlgEventImp::BTN_OnLButtonUp(int id, unsigned int, tagPOINT)
 {
-    if (id == 1 && m_pBtnOK)
+    if (id == kOkId && m_pBtnOK)
         m_pBtnOK->SetTextColor(0);
-    else if (id == 2 && m_pBtnCancel)
+    else if (id == kCancelId && m_pBtnCancel)
         m_pBtnCancel->SetTextColor(0);
 }
 

@@ -36,6 +36,7 @@ public:
 
     void OnBtnClose();
 
+private:
     CSFDialog* m_pDlg;
     CSFStatic* m_pText;
     CSFButton* m_pBtnOK;

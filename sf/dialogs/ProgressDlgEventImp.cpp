@@ -7,8 +7,16 @@
 #include <QLabel>
 #include <QMovie>
 
+namespace {
+
+constexpr unsigned int kTimerMessage = 0x113;
+constexpr unsigned int kCloseTimerId = 2;
+constexpr int kDialogSide = 100;
+
+} // namespace
+
 SF_BEGIN_MSGMAP(CProgressDlgEventImp)
-    SF_MAP_ENTRY(0x113, 0, 2, 2, SF_SIG_UIMSG, OnTimerClose)
+    SF_MAP_ENTRY(kTimerMessage, 0, kCloseTimerId, kCloseTimerId, SF_SIG_UIMSG, OnTimerClose)
 SF_END_MSGMAP()
 
 CProgressDlgEventImp::CProgressDlgEventImp(const wchar_t* file, int width, int height)
@@ -27,10 +35,11 @@ int CProgressDlgEventImp::Dlg_OnInitDialog(bool bCreateOnly)
 {
     if (bCreateOnly)
         return 1;
-    const int x = (100 - m_nWidth) / 2;
-    const int y = (100 - m_nHeight) / 2;
+    const int x = (kDialogSide - m_nWidth) / 2;
+    const int y = (kDialogSide - m_nHeight) / 2;
     if (!m_pLabel) {
         m_pLabel = new QLabel(SFWidgetFromHandle(GetUIWnd()));
+        m_pLabel->setObjectName(QStringLiteral("animation"));
         m_pLabel->setGeometry(x, y, m_nWidth, m_nHeight);
     }
     if (!m_pMovie) {
@@ -39,7 +48,7 @@ int CProgressDlgEventImp::Dlg_OnInitDialog(bool bCreateOnly)
     }
     m_pMovie->start();
     if (m_pDlg) {
-        m_pDlg->MoveWindow(0, 0, 100, 100);
+        m_pDlg->MoveWindow(0, 0, kDialogSide, kDialogSide);
         m_pDlg->CenterWindow(nullptr);
     }
     return 0;

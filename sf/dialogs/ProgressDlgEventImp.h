@@ -26,6 +26,7 @@ public:
     // Timer 2 ends the dialog.
     void OnTimerClose(unsigned int wParam, long lParam);
 
+private:
     CSFDialog* m_pDlg;
     QLabel* m_pLabel;
     std::wstring m_strFile;

@@ -7,23 +7,16 @@
 // met and the program then shut down as it does for a user. Offscreen by
 // default; QT_LOGGING_RULES="tallix.session.info=true" prints each step's
 // time.
-#include "Config/ConfigXMLPersistImp.h"
 #include "sf/DialogStyle.h"
-#include "language/LangString.h"
 #include "shell/MainDlgEventImp.h"
 #include "shell/MainWindowBringUp.h"
-#include "sf/qt/SFApplication.h"
-#include "sf/SFFactory.h"
 #include "tests/session/SessionScript.h"
-#include "Config/VexUISetting.h"
 
 #include <QApplication>
-#include <QIcon>
 #include <QTimer>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <string>
 
 namespace {
 
@@ -64,17 +57,7 @@ int main(int argc, char** argv)
 
     // From here to the end, the order of the program's main.
     QApplication app(argc, argv);
-    SFInitUI();
-    SFSetApplication(&app);
-    std::wstring strAppDir = SFGetAppPath();
-    SFSetSkinPath((strAppDir + L"/Bin/Skin/").c_str());
-    SFLoadStyleSheet(strAppDir + L"/Tallix_Style.css");
-    QGuiApplication::setDesktopFileName(QStringLiteral("tallix"));
-    QApplication::setWindowIcon(QIcon(g_strSkinPath + QStringLiteral("tallix.png")));
-    ReadLanguageChoice();
-
-    g_UISetting.SetPersistent(new CConfigXMLPersistImp(std::string()));
-    g_UISetting.Load();
+    PrepareProgram(app);
 
     DialogStyle style;
     CMainDlgEventImp* pMainEvent = nullptr;
@@ -92,11 +75,7 @@ int main(int argc, char** argv)
     });
     app.exec();
 
-    SFDestroyControl(pMainDlg);
-    pMainDlg = nullptr;
-    SFUninitUI();
-    delete pMainEvent;
-    pMainEvent = nullptr;
+    TearDownProgram(pMainDlg, pMainEvent);
 
     if (!loopEndedByClose)
         std::fprintf(stderr, "tallix_session: FAILED: the close button did not end the program\n");

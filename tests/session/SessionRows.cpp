@@ -1,7 +1,9 @@
 #include "tests/session/SessionRows.h"
 
 #include "calculator/CalculatorBottom.h"
+#include "tests/session/SessionCalculator.h"
 #include "sf/qt/SFQTListCtrl.h"
+#include "sf/qt/SFQtConvert.h"
 #include "sf/SFStatic.h"
 #include "tests/session/SessionUser.h"
 #include "streams/TallixEventImp.h"
@@ -65,9 +67,15 @@ CSessionRows::CSessionRows(CSessionUser& user, CTallixEventImp* page) : m_user(u
 {
 }
 
+QWidget* CSessionRows::PageChild(const char* name) const
+{
+    QWidget* page = m_page ? SFWidgetFromHandle(m_page->GetUIWnd()) : nullptr;
+    return page ? page->findChild<QWidget*>(QString::fromLatin1(name)) : nullptr;
+}
+
 CSFQTListCtrl* CSessionRows::List() const
 {
-    return m_page ? dynamic_cast<CSFQTListCtrl*>(m_page->m_pList) : nullptr;
+    return dynamic_cast<CSFQTListCtrl*>(PageChild("listctrl_2014"));
 }
 
 QWidget* CSessionRows::Widget(int reg, int row) const
@@ -143,7 +151,7 @@ void CSessionRows::AddRows(int count)
 {
     for (int i = 0; i < count; ++i) {
         const int row = Rows();
-        m_user.Click(dynamic_cast<QWidget*>(m_page->m_pLabelAdd));
+        m_user.Click(PageChild("label_add"));
         if (!m_user.Check(Rows() == row + 1, QStringLiteral("\"Add Streaming\" added no row")))
             return;
         m_user.CheckText(Text(row, ColNumber), QString::number(row + 1),
@@ -251,10 +259,10 @@ void CSessionRows::CheckTotals(const QString& when)
         if (Text(row, ColBitrate) != QStringLiteral("0"))
             channels += Channels(row);
     }
-    const CCalculatorBottom* calc = m_page->m_pCalculator;
-    m_user.CheckText(LabelText(calc->m_pStaticChannelCount), QString::number(channels),
+    const CCalculatorBottom* calc = m_page->GetCalculator();
+    m_user.CheckText(LabelText(CSessionCalculator::Label(calc, CCalculatorBottom::kNameChannelCount)), QString::number(channels),
                      QStringLiteral("channel count ") + when);
-    m_user.CheckText(LabelText(calc->m_pStaticBitrate), RateLabel(VisibleTotal()),
+    m_user.CheckText(LabelText(CSessionCalculator::Label(calc, CCalculatorBottom::kNameBitrate)), RateLabel(VisibleTotal()),
                      QStringLiteral("total bit rate ") + when);
 }
 
@@ -288,10 +296,10 @@ void CSessionRows::DeleteRows(int count)
 
 void CSessionRows::ClearAll()
 {
-    m_user.Click(dynamic_cast<QWidget*>(m_page->m_pLabelClear));
+    m_user.Click(PageChild("label_clear"));
     m_user.Check(Rows() == 0, QStringLiteral("\"Clear All\" left %1 rows").arg(Rows()));
     CheckTotals(QStringLiteral("after \"Clear All\""));
-    m_user.CheckText(LabelText(m_page->m_pCalculator->m_pStaticBitrate),
+    m_user.CheckText(LabelText(CSessionCalculator::Label(m_page->GetCalculator(), CCalculatorBottom::kNameBitrate)),
                      QStringLiteral("0.00 kbps"), QStringLiteral("total after \"Clear All\""));
 }
 

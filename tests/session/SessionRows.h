@@ -53,6 +53,8 @@ private:
     void CheckRow(int row, const Plan& plan);
     void CheckNumbering(const QString& when);
 
+    // A control of the page by its object name.
+    QWidget* PageChild(const char* name) const;
     CSFQTListCtrl* List() const;
     QWidget* Widget(int reg, int row) const;
     QWidget* Cell(int reg, int row, int column) const;

@@ -3,6 +3,7 @@
 #include "calculator/CalculatorBottom.h"
 #include "language/LangString.h"
 #include "shell/MainDlgEventImp.h"
+#include "shell/ToolBarEventImp.h"
 #include "tests/session/PaintCounter.h"
 #include "sf/qt/SFQtConvert.h"
 #include "sf/SFStatic.h"
@@ -35,26 +36,26 @@ void CSessionScript::Step(const char* name, F work)
     timer.start();
     work();
     // With what the panel answers and the totals, for the log.
-    const CCalculatorBottom* calc = m_main->m_pPageEvent->m_pCalculator;
+    const CCalculatorBottom* calc = m_main->GetPageEvent()->GetCalculator();
     qCInfo(lcSession, "%-16s %7lld ms  %-6s | %s channels, %s | %s %s", name,
            static_cast<long long>(timer.elapsed()),
            m_user.Failures() > failuresBefore ? "FAILED" : "ok",
-           qUtf8Printable(CSessionUser::LabelText(calc->m_pStaticChannelCount)),
-           qUtf8Printable(CSessionUser::LabelText(calc->m_pStaticBitrate)),
-           qUtf8Printable(CSessionUser::LabelText(calc->m_pStaticResultCaption)),
-           qUtf8Printable(CSessionUser::LabelText(calc->m_pStaticResultValue)));
+           qUtf8Printable(CSessionUser::LabelText(CSessionCalculator::Label(calc, CCalculatorBottom::kNameChannelCount))),
+           qUtf8Printable(CSessionUser::LabelText(CSessionCalculator::Label(calc, CCalculatorBottom::kNameBitrate))),
+           qUtf8Printable(CSessionUser::LabelText(CSessionCalculator::Label(calc, CCalculatorBottom::kNameResultCaption))),
+           qUtf8Printable(CSessionUser::LabelText(CSessionCalculator::Label(calc, CCalculatorBottom::kNameResultValue))));
 }
 
 void CSessionScript::Run()
 {
-    CTallixEventImp* page = m_main ? m_main->m_pPageEvent : nullptr;
-    if (!m_user.Check(page && page->m_pCalculator && SFWidgetFromHandle(m_main->GetUIWnd()),
+    CTallixEventImp* page = m_main ? m_main->GetPageEvent() : nullptr;
+    if (!m_user.Check(page && page->GetCalculator() && SFWidgetFromHandle(m_main->GetUIWnd()),
                       QStringLiteral("the main window has no channel page"))) {
         Close();
         return;
     }
     CSessionRows rows(m_user, page);
-    CSessionCalculator calculator(m_user, page->m_pCalculator);
+    CSessionCalculator calculator(m_user, page->GetCalculator());
 
     Step("empty window", [&] { CheckEmptyWindow(); });
     Step("add rows", [&] { rows.AddRows(m_rows); });
@@ -86,12 +87,12 @@ void CSessionScript::CheckEmptyWindow()
     m_user.Check(window->isVisible() && window->size() == QSize(1100, 750),
                  QStringLiteral("the main window is not shown at 1100 by 750"));
     m_user.CheckText(window->windowTitle(), CSessionUser::Word(L"ProductName"), QStringLiteral("window title"));
-    CCalculatorBottom* calc = m_main->m_pPageEvent->m_pCalculator;
-    m_user.CheckText(CSessionUser::LabelText(calc->m_pStaticChannelCount), QStringLiteral("0"),
+    CCalculatorBottom* calc = m_main->GetPageEvent()->GetCalculator();
+    m_user.CheckText(CSessionUser::LabelText(CSessionCalculator::Label(calc, CCalculatorBottom::kNameChannelCount)), QStringLiteral("0"),
                      QStringLiteral("channels at start"));
-    m_user.CheckText(CSessionUser::LabelText(calc->m_pStaticBitrate), QStringLiteral("0.00 kbps"),
+    m_user.CheckText(CSessionUser::LabelText(CSessionCalculator::Label(calc, CCalculatorBottom::kNameBitrate)), QStringLiteral("0.00 kbps"),
                      QStringLiteral("total at start"));
-    m_user.CheckText(CSessionUser::LabelText(calc->m_pStaticResultValue), QStringLiteral("0.00GB"),
+    m_user.CheckText(CSessionUser::LabelText(CSessionCalculator::Label(calc, CCalculatorBottom::kNameResultValue)), QStringLiteral("0.00GB"),
                      QStringLiteral("answer at start"));
 }
 
@@ -120,8 +121,8 @@ void CSessionScript::PreviewScene(int scene, QWidget* previewButton)
 void CSessionScript::Close()
 {
     QWidget* window = m_main ? SFWidgetFromHandle(m_main->GetUIWnd()) : nullptr;
-    auto* close =
-        window ? window->findChild<QAbstractButton*>(QStringLiteral("button_2003")) : nullptr;
+    const QString name = QStringLiteral("button_%1").arg(CToolBarEventImp::IdClose);
+    auto* close = window ? window->findChild<QAbstractButton*>(name) : nullptr;
     if (!m_user.Check(close, QStringLiteral("no close button"))) {
         if (window)
             window->close();

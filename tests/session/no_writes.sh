@@ -23,7 +23,8 @@ calls=open,openat,openat2,creat,rename,renameat,renameat2,unlink,unlinkat,rmdir,
 calls=$calls,truncate,ftruncate,link,linkat,symlink,symlinkat
 
 set +e
-(cd / && env HOME="$home" XDG_RUNTIME_DIR="$home/runtime" \
+# No session bus either, as on a bare X server: none may be started for it.
+(cd / && env -u DBUS_SESSION_BUS_ADDRESS HOME="$home" XDG_RUNTIME_DIR="$home/runtime" \
    "$strace" -f -qq -e signal=none -o "$log_dir/trace" -e trace="$calls" "$session" "$@")
 rc=$?
 set -e

@@ -90,8 +90,8 @@ public:
         m_dlg = BringUpMainWindow(style, m_event);
         m_window = dynamic_cast<QWidget*>(m_dlg);
         (void)QTest::qWaitForWindowExposed(m_window);
-        m_page = m_event->m_pPageEvent;
-        m_list = dynamic_cast<CSFQTListCtrl*>(m_page->m_pList);
+        m_page = m_event->GetPageEvent();
+        m_list = m_window->findChild<CSFQTListCtrl*>(QStringLiteral("listctrl_2014"));
     }
     ~Bench()
     {
@@ -115,16 +115,11 @@ public:
 
     // The click of "Add Streaming" reaches the page as its command.
     Sample AddRow() { return Time([this] { ClickAdd(); }); }
-    void ClickAdd()
+    void ClickAdd() { ClickLabel("label_add"); }
+    void ClickClearAll() { ClickLabel("label_clear"); }
+    void ClickLabel(const char* name)
     {
-        QWidget* label = dynamic_cast<QWidget*>(m_page->m_pLabelAdd);
-        QWindow* window = m_window->windowHandle();
-        QTest::mouseClick(window, Qt::LeftButton, Qt::NoModifier,
-                          label->mapTo(m_window, label->rect().center()));
-    }
-    void ClickClearAll()
-    {
-        QWidget* label = dynamic_cast<QWidget*>(m_page->m_pLabelClear);
+        QWidget* label = m_window->findChild<QWidget*>(QString::fromLatin1(name));
         QTest::mouseClick(m_window->windowHandle(), Qt::LeftButton, Qt::NoModifier,
                           label->mapTo(m_window, label->rect().center()));
     }
@@ -245,8 +240,8 @@ int main(int argc, char** argv)
                                     QApplication::topLevelWidgets().size() - widgetsBefore) / rows,
                 static_cast<double>(bench.m_window->findChildren<QObject*>().size() +
                                     QApplication::topLevelWidgets().size() - objectsBefore) / rows);
-    std::printf("totals: %d channels, %.0f kbps\n", bench.m_page->m_pCalculator->GetChannels(),
-                bench.m_page->m_pCalculator->GetTotalBitrate());
+    std::printf("totals: %d channels, %.0f kbps\n", bench.m_page->GetCalculator()->GetChannels(),
+                bench.m_page->GetCalculator()->GetTotalBitrate());
 
     QElapsedTimer t;
     t.start();
@@ -261,7 +256,7 @@ int main(int argc, char** argv)
     std::printf("clear all at %d rows: %.2f ms, widgets freed at %.2f ms, painted at %.2f ms "
                 "[cpu %.2f ms]\n",
                 rows, clear, deleted, painted, CpuMs() - cpu);
-    if (bench.m_list->GetItemCount() != 0 || bench.m_page->m_pCalculator->GetChannels() != 0) {
+    if (bench.m_list->GetItemCount() != 0 || bench.m_page->GetCalculator()->GetChannels() != 0) {
         std::fprintf(stderr, "clear all left rows\n");
         return 1;
     }

@@ -187,11 +187,11 @@ TEST_F(PageList, ClicksOnARowSelectItAndClicksBelowTheRowsDoNot)
 {
     d.AddRows(3);
     UserClick(list->viewport(), CellCentre(1, 0));
-    EXPECT_EQ(d.Page()->m_nSelectedRow, 1);
+    EXPECT_EQ(d.Page()->GetSelectedRow(), 1);
     UserClick(list->viewport(), CellCentre(2, 0));
-    EXPECT_EQ(d.Page()->m_nSelectedRow, 2);
+    EXPECT_EQ(d.Page()->GetSelectedRow(), 2);
     UserClick(list->viewport(), QPoint(10, list->viewport()->height() - 5));
-    EXPECT_EQ(d.Page()->m_nSelectedRow, 2);
+    EXPECT_EQ(d.Page()->GetSelectedRow(), 2);
 }
 
 } // namespace

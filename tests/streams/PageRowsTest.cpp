@@ -138,8 +138,8 @@ std::vector<std::function<void()>> RowHandlers(CPageDriver& d)
     R* list = d.List();
     std::vector<std::function<void()>> handlers;
     const std::pair<R::Register, unsigned int> combos[] = {
-        { R::CompressionCombos, SF_LIST_ID_COMPRESSION }, { R::EnvironmentCombos, SF_LIST_ID_ENVIRONMENT },
-        { R::ResolutionCombos, SF_LIST_ID_RESOLUTION }, { R::FrameRateCombos, SF_LIST_ID_FRAMERATE }
+        { R::CompressionCombos, SF_LIST_ID_FIRST_COMBO }, { R::EnvironmentCombos, SF_LIST_ID_BUTTON_COMBO },
+        { R::ResolutionCombos, SF_LIST_ID_SECOND_COMBO }, { R::FrameRateCombos, SF_LIST_ID_EDIT_COMBO }
     };
     for (const auto& [reg, id] : combos) {
         auto* combo = static_cast<CSFComboBox*>(list->RegisterControl(reg, 0));
@@ -148,7 +148,7 @@ std::vector<std::function<void()>> RowHandlers(CPageDriver& d)
         });
     }
     const std::pair<R::Register, unsigned int> edits[] = { { R::CustomRateEdits, 0u },
-                                                           { R::BitrateEdits, SF_LIST_ID_COMPRESSION } };
+                                                           { R::BitrateEdits, SF_LIST_ID_FIRST_COMBO } };
     for (const auto& [reg, id] : edits) {
         auto* edit = static_cast<CSFEditCtrl*>(list->RegisterControl(reg, 0));
         handlers.push_back([list, edit, id = id] {

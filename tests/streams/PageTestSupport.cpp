@@ -8,6 +8,7 @@
 #include "sf/qt/SFApplication.h"
 #include "sf/SFDialog.h"
 #include "sf/SFFactory.h"
+#include "sf/qt/SFQtConvert.h"
 #include "sf/SFRadioBox.h"
 #include "sf/SFStatic.h"
 #include "streams/TallixEventImp.h"
@@ -102,10 +103,18 @@ CModalWatch::CModalWatch(std::function<void(QDialog*)> inspect) : m_poll(new QTi
 CModalWatch::~CModalWatch() { delete m_poll; }
 
 CPageDriver::CPageDriver(CTallixEventImp* page) : m_page(page) {}
-CSFQTListCtrl* CPageDriver::List() const { return dynamic_cast<CSFQTListCtrl*>(m_page->m_pList); }
-CCalculatorBottom* CPageDriver::Calculator() const { return m_page->m_pCalculator; }
-void CPageDriver::ClickAdd() { UserClick(dynamic_cast<QWidget*>(m_page->m_pLabelAdd)); }
-void CPageDriver::ClickClearAll() { UserClick(dynamic_cast<QWidget*>(m_page->m_pLabelClear)); }
+QWidget* CPageDriver::Child(const char* name) const
+{
+    QWidget* page = SFWidgetFromHandle(m_page->GetUIWnd());
+    return page ? page->findChild<QWidget*>(QString::fromLatin1(name)) : nullptr;
+}
+CSFQTListCtrl* CPageDriver::List() const
+{
+    return dynamic_cast<CSFQTListCtrl*>(Child("listctrl_2014"));
+}
+CCalculatorBottom* CPageDriver::Calculator() const { return m_page->GetCalculator(); }
+void CPageDriver::ClickAdd() { UserClick(Child("label_add")); }
+void CPageDriver::ClickClearAll() { UserClick(Child("label_clear")); }
 
 void CPageDriver::AddRows(int count)
 {
@@ -259,18 +268,18 @@ QString CPageDriver::CustomRateText(int row) const
 int CPageDriver::Rows() const { return List()->GetItemCount(); }
 QString CPageDriver::ChannelsLabel() const
 {
-    return LabelText(Calculator()->m_pStaticChannelCount);
+    return LabelText(dynamic_cast<CSFStatic*>(Child(CCalculatorBottom::kNameChannelCount)));
 }
-QString CPageDriver::BitrateLabel() const { return LabelText(Calculator()->m_pStaticBitrate); }
+QString CPageDriver::BitrateLabel() const { return LabelText(dynamic_cast<CSFStatic*>(Child(CCalculatorBottom::kNameBitrate))); }
 QString CPageDriver::ResultCaption() const
 {
-    return LabelText(Calculator()->m_pStaticResultCaption);
+    return LabelText(dynamic_cast<CSFStatic*>(Child(CCalculatorBottom::kNameResultCaption)));
 }
-QString CPageDriver::ResultValue() const { return LabelText(Calculator()->m_pStaticResultValue); }
+QString CPageDriver::ResultValue() const { return LabelText(dynamic_cast<CSFStatic*>(Child(CCalculatorBottom::kNameResultValue))); }
 
 void CPageDriver::ClickMode(unsigned int radioId)
 {
-    UserClick(dynamic_cast<QWidget*>(Calculator()->FindModeRadio(static_cast<int>(radioId))));
+    UserClick(Child(("radio_" + std::to_string(radioId)).c_str()));
 }
 
 CMainWindowUnderTest::CMainWindowUnderTest()
@@ -308,5 +317,5 @@ QAbstractButton* CMainWindowUnderTest::Button(unsigned int id) const
 
 CTallixEventImp* CMainWindowUnderTest::Page() const
 {
-    return m_event ? m_event->m_pPageEvent : nullptr;
+    return m_event ? m_event->GetPageEvent() : nullptr;
 }

@@ -106,6 +106,8 @@ public:
     QWidget* Combo(int row, RowColumn col) const;
 
 private:
+    // A control of the page by its object name.
+    QWidget* Child(const char* name) const;
     // Scrolls the column of the row into view and gives its control.
     QWidget* Reveal(CSFQTListCtrl::Register reg, int row, RowColumn col) const;
     CTallixEventImp* m_page;
