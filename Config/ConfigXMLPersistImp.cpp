@@ -1,6 +1,5 @@
 #include "Config/ConfigXMLPersistImp.h"
 
-#include <cstdio>
 #include <sys/stat.h>
 
 #include "language/SFStreamConvert.h"
@@ -8,16 +7,27 @@
 
 using SF_SOFT_BASE::CSFStreamConvert;
 
+namespace {
+
+// The element's "value" as query reads it; def without the element or a readable value.
+template <class T>
+T QueryValue(const TiXmlElement* element, T def,
+             int (TiXmlElement::*query)(const char*, T*) const)
+{
+    T value = def;
+    if (element && (element->*query)("value", &value) != TIXML_SUCCESS)
+        value = def;
+    return value;
+}
+
+} // namespace
+
 CConfigXMLPersistImp::CConfigXMLPersistImp(std::string /*unused*/)
 {
-    FILE* file = std::fopen("config.xml", "rb");
-    if (!file)
-        return;
-    // A directory of that name opens too; reading it would fail.
+    // Looked at, not opened: opening a FIFO blocks until someone writes to
+    // it, and anything but a regular file counts as no settings.
     struct stat info;
-    bool regular = fstat(fileno(file), &info) == 0 && S_ISREG(info.st_mode);
-    std::fclose(file);
-    if (regular)
+    if (::stat("config.xml", &info) == 0 && S_ISREG(info.st_mode))
         CXmlFileLoader::Load(m_doc, "config.xml");
 }
 
@@ -40,21 +50,13 @@ TiXmlElement* CConfigXMLPersistImp::FindElement(const wchar_t* section, const wc
 double CConfigXMLPersistImp::ReadDouble(const wchar_t* section, const wchar_t* name, double def,
                                         DWORD /*spare*/)
 {
-    TiXmlElement* element = FindElement(section, name);
-    double value = def;
-    if (element && element->QueryDoubleAttribute("value", &value) != TIXML_SUCCESS)
-        value = def;
-    return value;
+    return QueryValue(FindElement(section, name), def, &TiXmlElement::QueryDoubleAttribute);
 }
 
 int CConfigXMLPersistImp::ReadInt(const wchar_t* section, const wchar_t* name, int def,
                                   DWORD /*spare*/)
 {
-    TiXmlElement* element = FindElement(section, name);
-    int value = def;
-    if (element && element->QueryIntAttribute("value", &value) != TIXML_SUCCESS)
-        value = def;
-    return value;
+    return QueryValue(FindElement(section, name), def, &TiXmlElement::QueryIntAttribute);
 }
 
 bool CConfigXMLPersistImp::ReadBool(const wchar_t* section, const wchar_t* name, bool def,
@@ -63,21 +65,16 @@ bool CConfigXMLPersistImp::ReadBool(const wchar_t* section, const wchar_t* name,
     TiXmlElement* element = FindElement(section, name);
     // TinyXML asserts on an empty text instead of refusing it.
     const char* text = element ? element->Attribute("value") : nullptr;
-    bool value = def;
-    if (text && *text && element->QueryBoolAttribute("value", &value) != TIXML_SUCCESS)
-        value = def;
-    return value;
+    if (!text || !*text)
+        return def;
+    return QueryValue(element, def, &TiXmlElement::QueryBoolAttribute);
 }
 
 DWORD CConfigXMLPersistImp::ReadDword(const wchar_t* section, const wchar_t* name, DWORD def,
                                       DWORD /*spare*/)
 {
-    TiXmlElement* element = FindElement(section, name);
-    if (!element)
-        return def;
-    int value = 0;
-    if (element->QueryIntAttribute("value", &value) != TIXML_SUCCESS)
-        return def;
+    const int value = QueryValue(FindElement(section, name), static_cast<int>(def),
+                                 &TiXmlElement::QueryIntAttribute);
     return static_cast<DWORD>(value);
 }
 

@@ -43,18 +43,15 @@ void DestroyDictionary()
     g_pDictionary = nullptr;
 }
 
-// The executable's directory with a trailing slash, forward slashes only.
+// The executable's directory with a trailing slash. A backslash is an
+// ordinary file-name character here, part of a folder's name.
 std::string ExecutableDirectory()
 {
     if (!g_strLangDirOverride.empty())
         return g_strLangDirOverride + "/";
     char path[SF_MAX_PATH] = {0};
     GetModuleFileNameA(nullptr, path, SF_MAX_PATH);
-    std::string text(path);
-    for (char& c : text) {
-        if (c == '\\')
-            c = '/';
-    }
+    const std::string text(path);
     std::size_t slash = text.rfind('/');
     return slash == std::string::npos ? std::string() : text.substr(0, slash + 1);
 }

@@ -1,9 +1,34 @@
 #include "language/SFStreamConvert.h"
 
-#include <cstring>
-#include <cwchar>
+#include <cstddef>
+#include <string>
 
 #include "platform/WinCodePage.h"
+
+namespace {
+
+// A new copy of text, terminator included.
+template <class Char>
+Char* Duplicate(const Char* text)
+{
+    const std::size_t size = std::char_traits<Char>::length(text) + 1;
+    Char* copy = new Char[size];
+    std::char_traits<Char>::copy(copy, text, size);
+    return copy;
+}
+
+// convert(nullptr, 0) measures; the text then goes into a zeroed buffer one longer.
+template <class Char, class Convert>
+Char* Converted(Convert convert)
+{
+    const int needed = convert(nullptr, 0);
+    Char* out = new Char[needed + 1]();
+    if (needed > 0)
+        convert(out, needed);
+    return out;
+}
+
+} // namespace
 
 namespace SF_SOFT_BASE {
 
@@ -62,28 +87,20 @@ void CSFStreamConvert::FromWide(const wchar_t* text, unsigned int codePage)
 {
     if (!text)
         return;
-    std::size_t length = std::wcslen(text);
-    m_pszW = new wchar_t[length + 1];
-    std::wmemcpy(m_pszW, text, length + 1);
-
-    int needed = WideCharToMultiByte(codePage, 0, text, -1, nullptr, 0, nullptr, nullptr);
-    m_pszA = new char[needed + 1]();
-    if (needed > 0)
-        WideCharToMultiByte(codePage, 0, text, -1, m_pszA, needed, nullptr, nullptr);
+    m_pszW = Duplicate(text);
+    m_pszA = Converted<char>([&](char* out, int size) {
+        return WideCharToMultiByte(codePage, 0, text, -1, out, size, nullptr, nullptr);
+    });
 }
 
 void CSFStreamConvert::FromNarrow(const char* text, unsigned int codePage)
 {
     if (!text)
         return;
-    std::size_t length = std::strlen(text);
-    m_pszA = new char[length + 1];
-    std::memcpy(m_pszA, text, length + 1);
-
-    int needed = MultiByteToWideChar(codePage, 0, text, -1, nullptr, 0);
-    m_pszW = new wchar_t[needed + 1]();
-    if (needed > 0)
-        MultiByteToWideChar(codePage, 0, text, -1, m_pszW, needed);
+    m_pszA = Duplicate(text);
+    m_pszW = Converted<wchar_t>([&](wchar_t* out, int size) {
+        return MultiByteToWideChar(codePage, 0, text, -1, out, size);
+    });
 }
 
 } // namespace SF_SOFT_BASE

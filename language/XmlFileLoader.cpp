@@ -119,7 +119,9 @@ bool CXmlFileLoader::Load(TiXmlDocument& doc, const std::string& path)
     // A directory of that name would make the stream throw.
     struct stat st;
     std::ifstream in;
-    if (::stat(path.c_str(), &st) == 0 && S_ISREG(st.st_mode))
+    // Our files are a few kilobytes; a gigabyte one would hold the start up
+    // for minutes and take its size in memory twice.
+    if (::stat(path.c_str(), &st) == 0 && S_ISREG(st.st_mode) && st.st_size <= kMaxFileBytes)
         in.open(path, std::ios::binary);
     if (!in.is_open() || !in) {
         doc.Clear();

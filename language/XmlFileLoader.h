@@ -9,6 +9,7 @@ class TiXmlDocument;
 class CXmlFileLoader {
 public:
     static constexpr int kMaxDepth = 200;
+    static constexpr long kMaxFileBytes = 16L << 20;
 
     // True when the file was read and parsed without error. On a refused or
     // unreadable file the document is left empty with its error flag set.

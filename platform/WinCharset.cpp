@@ -13,6 +13,34 @@ namespace {
 
 constexpr wchar_t kReplacement = 0xFFFD;
 
+// The well-formed lead bytes of more than one byte: trail bytes that follow,
+// payload bits of the lead, and the bounds on the first trail byte, which rule
+// out overlong forms, surrogates and values beyond U+10FFFF.
+struct Utf8Lead {
+    unsigned char first;
+    unsigned char last;
+    int trail;
+    unsigned char mask;
+    unsigned char lo;
+    unsigned char hi;
+};
+
+constexpr Utf8Lead kUtf8Leads[] = {
+    { 0xC2, 0xDF, 1, 0x1F, 0x80, 0xBF }, { 0xE0, 0xE0, 2, 0x0F, 0xA0, 0xBF },
+    { 0xE1, 0xEC, 2, 0x0F, 0x80, 0xBF }, { 0xED, 0xED, 2, 0x0F, 0x80, 0x9F },
+    { 0xEE, 0xEF, 2, 0x0F, 0x80, 0xBF }, { 0xF0, 0xF0, 3, 0x07, 0x90, 0xBF },
+    { 0xF1, 0xF3, 3, 0x07, 0x80, 0xBF }, { 0xF4, 0xF4, 3, 0x07, 0x80, 0x8F },
+};
+
+const Utf8Lead* findLead(unsigned char lead)
+{
+    for (const Utf8Lead& form : kUtf8Leads) {
+        if (lead >= form.first && lead <= form.last)
+            return &form;
+    }
+    return nullptr;
+}
+
 bool isUtf8(const std::string& charset)
 {
     std::string name;
@@ -94,33 +122,15 @@ std::wstring Utf8ToWide(const char* src, std::size_t len)
             out.push_back(static_cast<wchar_t>(lead));
             continue;
         }
-        // The bounds on the first trail byte rule out overlong forms,
-        // surrogates and values beyond U+10FFFF.
-        int trail = 0;
-        unsigned char lo = 0x80;
-        unsigned char hi = 0xBF;
-        std::uint32_t cp = 0;
-        if (lead >= 0xC2 && lead <= 0xDF) {
-            trail = 1;
-            cp = lead & 0x1Fu;
-        } else if (lead >= 0xE0 && lead <= 0xEF) {
-            trail = 2;
-            cp = lead & 0x0Fu;
-            if (lead == 0xE0)
-                lo = 0xA0;
-            else if (lead == 0xED)
-                hi = 0x9F;
-        } else if (lead >= 0xF0 && lead <= 0xF4) {
-            trail = 3;
-            cp = lead & 0x07u;
-            if (lead == 0xF0)
-                lo = 0x90;
-            else if (lead == 0xF4)
-                hi = 0x8F;
-        } else {
+        const Utf8Lead* form = findLead(lead);
+        if (!form) {
             out.push_back(kReplacement);
             continue;
         }
+        int trail = form->trail;
+        unsigned char lo = form->lo;
+        unsigned char hi = form->hi;
+        std::uint32_t cp = lead & form->mask;
         bool complete = true;
         for (; trail > 0; --trail) {
             if (i >= len || s[i] < lo || s[i] > hi) {

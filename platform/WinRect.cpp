@@ -10,9 +10,28 @@ LONG addWrapped(LONG a, LONG b)
     return static_cast<LONG>(static_cast<DWORD>(a) + static_cast<DWORD>(b));
 }
 
-LONG subWrapped(LONG a, LONG b)
+LONG negWrapped(LONG a)
 {
-    return static_cast<LONG>(static_cast<DWORD>(a) - static_cast<DWORD>(b));
+    return static_cast<LONG>(0u - static_cast<DWORD>(a));
+}
+
+// Adds the four amounts to left, top, right and bottom.
+BOOL moveEdges(tagRECT* rc, LONG dl, LONG dt, LONG dr, LONG db)
+{
+    if (!rc)
+        return FALSE;
+    rc->left = addWrapped(rc->left, dl);
+    rc->top = addWrapped(rc->top, dt);
+    rc->right = addWrapped(rc->right, dr);
+    rc->bottom = addWrapped(rc->bottom, db);
+    return TRUE;
+}
+
+// Empties dst and reports that the result is empty.
+BOOL emptyResult(tagRECT* dst)
+{
+    SetRectEmpty(dst);
+    return FALSE;
 }
 
 } // namespace
@@ -63,24 +82,12 @@ BOOL PtInRect(const tagRECT* rc, tagPOINT pt)
 
 BOOL OffsetRect(tagRECT* rc, int dx, int dy)
 {
-    if (!rc)
-        return FALSE;
-    rc->left = addWrapped(rc->left, dx);
-    rc->right = addWrapped(rc->right, dx);
-    rc->top = addWrapped(rc->top, dy);
-    rc->bottom = addWrapped(rc->bottom, dy);
-    return TRUE;
+    return moveEdges(rc, dx, dy, dx, dy);
 }
 
 BOOL InflateRect(tagRECT* rc, int dx, int dy)
 {
-    if (!rc)
-        return FALSE;
-    rc->left = subWrapped(rc->left, dx);
-    rc->right = addWrapped(rc->right, dx);
-    rc->top = subWrapped(rc->top, dy);
-    rc->bottom = addWrapped(rc->bottom, dy);
-    return TRUE;
+    return moveEdges(rc, negWrapped(dx), negWrapped(dy), dx, dy);
 }
 
 BOOL IntersectRect(tagRECT* dst, const tagRECT* a, const tagRECT* b)
@@ -88,14 +95,11 @@ BOOL IntersectRect(tagRECT* dst, const tagRECT* a, const tagRECT* b)
     if (!dst || !a || !b)
         return FALSE;
     if (IsRectEmpty(a) || IsRectEmpty(b) || a->left >= b->right || b->left >= a->right
-        || a->top >= b->bottom || b->top >= a->bottom) {
-        SetRectEmpty(dst);
-        return FALSE;
-    }
-    // dst may alias a or b, so compute before storing.
-    const tagRECT r = { std::max(a->left, b->left), std::max(a->top, b->top),
-                        std::min(a->right, b->right), std::min(a->bottom, b->bottom) };
-    *dst = r;
+        || a->top >= b->bottom || b->top >= a->bottom)
+        return emptyResult(dst);
+    // dst may alias a or b: the whole result is made before it is stored.
+    *dst = tagRECT{ std::max(a->left, b->left), std::max(a->top, b->top),
+                    std::min(a->right, b->right), std::min(a->bottom, b->bottom) };
     return TRUE;
 }
 
@@ -105,19 +109,13 @@ BOOL UnionRect(tagRECT* dst, const tagRECT* a, const tagRECT* b)
         return FALSE;
     const bool aEmpty = IsRectEmpty(a);
     const bool bEmpty = IsRectEmpty(b);
-    if (aEmpty && bEmpty) {
-        SetRectEmpty(dst);
-        return FALSE;
-    }
-    if (aEmpty) {
-        *dst = *b;
-    } else if (bEmpty) {
-        *dst = *a;
-    } else {
-        const tagRECT r = { std::min(a->left, b->left), std::min(a->top, b->top),
-                            std::max(a->right, b->right), std::max(a->bottom, b->bottom) };
-        *dst = r;
-    }
+    if (aEmpty && bEmpty)
+        return emptyResult(dst);
+    if (aEmpty || bEmpty)
+        *dst = aEmpty ? *b : *a;
+    else
+        *dst = tagRECT{ std::min(a->left, b->left), std::min(a->top, b->top),
+                        std::max(a->right, b->right), std::max(a->bottom, b->bottom) };
     return TRUE;
 }
 
@@ -125,17 +123,13 @@ BOOL SubtractRect(tagRECT* dst, const tagRECT* a, const tagRECT* b)
 {
     if (!dst || !a || !b)
         return FALSE;
-    if (IsRectEmpty(a)) {
-        SetRectEmpty(dst);
-        return FALSE;
-    }
+    if (IsRectEmpty(a))
+        return emptyResult(dst);
     tagRECT result = *a;
     tagRECT cut;
     if (IntersectRect(&cut, a, b)) {
-        if (EqualRect(&cut, &result)) {
-            SetRectEmpty(dst);
-            return FALSE;
-        }
+        if (EqualRect(&cut, &result))
+            return emptyResult(dst);
         // Only a cut through the full height or width leaves a rectangle.
         if (cut.top == result.top && cut.bottom == result.bottom) {
             if (cut.left == result.left)

@@ -4,23 +4,13 @@
 #include "sf/ISFButtonEvent.h"
 #include "sf/ImageButtonStyle.h"
 #include "sf/SFControlTypes.h"
+#include "sf/SFControl.h"
 #include "platform/WinTypes.h"
 
-class CSFButton {
+class CSFButton : public CSFControl<ISFButtonEvent, ImageButtonStyle> {
 public:
-    explicit CSFButton(ISFButtonEvent* handler = nullptr)
-        : m_pHandler(handler), m_nID(static_cast<unsigned int>(-1)) {}
-    CSFButton(const CSFButton&) = default;
-    CSFButton& operator=(const CSFButton&) = default;
-    virtual ~CSFButton() {}
+    explicit CSFButton(ISFButtonEvent* handler = nullptr) : CSFControl(handler) {}
 
-    virtual int Create(const wchar_t* /*text*/, unsigned long /*style*/, const tagRECT& /*rect*/,
-                       void* /*parent*/, unsigned int /*id*/) { return 0; }
-    virtual void SetCursor() {}
-    virtual int SetSkin(ImageButtonStyle* /*style*/) { return 0; }
-    virtual void ShowWindow(int /*show*/) {}
-    virtual void MoveWindow(tagRECT* /*rect*/) {}
-    virtual void MoveWindow(int /*x*/, int /*y*/, int /*w*/, int /*h*/) {}
     virtual void EnableWindow(int /*enable*/) {}
     virtual void SetTextColor(unsigned long /*color*/) {}
     virtual void SetTextOffset(int /*x*/, int /*y*/) {}
@@ -34,8 +24,4 @@ public:
     virtual bool IsEnabled() { return false; }
     virtual void SetBtnState(int /*state*/) {}
     virtual void SetIconPos(ICON_POS /*pos*/) {}
-
-protected:
-    ISFButtonEvent* m_pHandler;
-    unsigned int m_nID;
 };

@@ -3,15 +3,12 @@
 
 #include "sf/ISFComboBoxEvent.h"
 #include "sf/ImageComboBoxStyle.h"
+#include "sf/SFControlBase.h"
 #include "platform/WinTypes.h"
 
-class CSFComboBox {
+class CSFComboBox : public CSFControlBase<ISFComboBoxEvent> {
 public:
-    explicit CSFComboBox(ISFComboBoxEvent* handler = nullptr)
-        : m_pHandler(handler), m_nID(static_cast<unsigned int>(-1)) {}
-    CSFComboBox(const CSFComboBox&) = default;
-    CSFComboBox& operator=(const CSFComboBox&) = default;
-    virtual ~CSFComboBox() {}
+    explicit CSFComboBox(ISFComboBoxEvent* handler = nullptr) : CSFControlBase(handler) {}
 
     virtual int Create(unsigned long /*style*/, const tagRECT& /*rect*/, void* /*parent*/,
                        unsigned int /*id*/) { return 0; }
@@ -30,8 +27,4 @@ public:
     virtual void SetOriginStyle(int /*origin*/) {}
     virtual void Clear() {}
     virtual void ResetContent() {}
-
-protected:
-    ISFComboBoxEvent* m_pHandler;
-    unsigned int m_nID;
 };

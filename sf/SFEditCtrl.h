@@ -2,15 +2,16 @@
 // Abstract single-line edit; CSFQTEditCtrl realises it.
 
 #include "sf/ISFEditCtrlEvent.h"
+#include "sf/SFControlBase.h"
 #include "platform/WinTypes.h"
 
-class CSFEditCtrl {
+#include <cstddef>
+#include <string>
+#include <vector>
+
+class CSFEditCtrl : public CSFControlBase<ISFEditCtrlEvent> {
 public:
-    explicit CSFEditCtrl(ISFEditCtrlEvent* handler = nullptr)
-        : m_pHandler(handler), m_nID(static_cast<unsigned int>(-1)) {}
-    CSFEditCtrl(const CSFEditCtrl&) = default;
-    CSFEditCtrl& operator=(const CSFEditCtrl&) = default;
-    virtual ~CSFEditCtrl() {}
+    explicit CSFEditCtrl(ISFEditCtrlEvent* handler = nullptr) : CSFControlBase(handler) {}
 
     virtual int Create(unsigned long /*style*/, const tagRECT& /*rect*/, void* /*parent*/,
                        unsigned int /*id*/, bool /*password*/) { return 0; }
@@ -25,8 +26,16 @@ public:
     virtual void SetReadOnly(int /*readOnly*/) {}
     virtual void GetEditCtrolPos(tagRECT& /*rect*/) {}
     virtual void SetRegExp() {}
-
-protected:
-    ISFEditCtrlEvent* m_pHandler;
-    unsigned int m_nID;
 };
+
+// At most maxChars characters of the edit; the edit does not end a short
+// text itself, hence the zeroed buffer.
+inline std::wstring SFEditText(const CSFEditCtrl* edit, int maxChars)
+{
+    if (maxChars < 0)
+        maxChars = 0;
+    std::vector<wchar_t> buffer(static_cast<std::size_t>(maxChars) + 1, L'\0');
+    if (edit)
+        edit->GetWindowTextW(buffer.data(), maxChars + 1);
+    return std::wstring(buffer.data());
+}

@@ -11,6 +11,7 @@ CSFEventBase::CSFEventBase(const CSFEventBase&)
 {
 }
 
+// NOLINTNEXTLINE(bugprone-unhandled-self-assignment): it copies nothing
 CSFEventBase& CSFEventBase::operator=(const CSFEventBase&)
 {
     return *this;

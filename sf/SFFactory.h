@@ -40,18 +40,13 @@ CSFStatic* SFCreateStatic(ISFStaticEvent* handler);
 CSFNumSpiner* SFCreateNumSpiner(ISFNumSpinerEvent* handler);
 CSFListCtrl* SFCreateListCtrl(ISFListCtrlEvent* handler);
 
-// Deletes the control and its Qt widget; null is ignored.
-void SFDestroyControl(CSFDialog* control);
-void SFDestroyControl(CSFView* control);
-void SFDestroyControl(CSFPictureCtrl* control);
-void SFDestroyControl(CSFButton* control);
-void SFDestroyControl(CSFCheckBox* control);
-void SFDestroyControl(CSFRadioBox* control);
-void SFDestroyControl(CSFEditCtrl* control);
-void SFDestroyControl(CSFComboBox* control);
-void SFDestroyControl(CSFStatic* control);
-void SFDestroyControl(CSFNumSpiner* control);
-void SFDestroyControl(CSFListCtrl* control);
+// Deletes any control of the factories and its Qt widget, through the
+// abstract class's virtual destructor; null is ignored.
+template <class Control>
+void SFDestroyControl(Control* control)
+{
+    delete control;
+}
 
 // A page's views go down with their Qt parent, so this does nothing.
 void SFDestroyView(CSFView* view);

@@ -3,15 +3,12 @@
 
 #include "sf/ISFNumSpinerEvent.h"
 #include "sf/ImageNumSpinerStyle.h"
+#include "sf/SFControlBase.h"
 #include "platform/WinTypes.h"
 
-class CSFNumSpiner {
+class CSFNumSpiner : public CSFControlBase<ISFNumSpinerEvent> {
 public:
-    explicit CSFNumSpiner(ISFNumSpinerEvent* handler = nullptr)
-        : m_pHandler(handler), m_nID(static_cast<unsigned int>(-1)) {}
-    CSFNumSpiner(const CSFNumSpiner&) = default;
-    CSFNumSpiner& operator=(const CSFNumSpiner&) = default;
-    virtual ~CSFNumSpiner() {}
+    explicit CSFNumSpiner(ISFNumSpinerEvent* handler = nullptr) : CSFControlBase(handler) {}
 
     // No style argument: the spinner is neither shown nor hidden by Create.
     virtual int Create(const wchar_t* /*text*/, const tagRECT& /*rect*/, void* /*parent*/,
@@ -31,8 +28,4 @@ public:
     virtual void EnableWindow(int /*enable*/) {}
     virtual void SetCircleStep(int /*circle*/) {}
     virtual void SetOriginStyle(int /*origin*/) {}
-
-protected:
-    ISFNumSpinerEvent* m_pHandler;
-    unsigned int m_nID;
 };

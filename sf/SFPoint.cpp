@@ -8,24 +8,6 @@ using sf_detail::WrapAdd;
 using sf_detail::WrapNeg;
 using sf_detail::WrapSub;
 
-CSFPoint::CSFPoint(int initX, int initY)
-{
-    x = initX;
-    y = initY;
-}
-
-CSFPoint::CSFPoint(tagPOINT initPt)
-{
-    x = initPt.x;
-    y = initPt.y;
-}
-
-CSFPoint::CSFPoint(tagSIZE initSize)
-{
-    x = initSize.cx;
-    y = initSize.cy;
-}
-
 CSFPoint::CSFPoint(long dwPoint)
 {
     const unsigned long bits = static_cast<unsigned long>(dwPoint);

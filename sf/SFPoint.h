@@ -10,9 +10,9 @@ class CSFPoint : public tagPOINT {
 public:
     // Left uninitialised, as a plain tagPOINT.
     CSFPoint() {}
-    CSFPoint(int initX, int initY);
-    CSFPoint(tagPOINT initPt);
-    CSFPoint(tagSIZE initSize);
+    CSFPoint(int initX, int initY) : tagPOINT{ initX, initY } {}
+    CSFPoint(tagPOINT initPt) : tagPOINT(initPt) {}
+    CSFPoint(tagSIZE initSize) : tagPOINT{ initSize.cx, initSize.cy } {}
     // Low 16 bits to x, high 16 bits to y, each sign-extended.
     CSFPoint(long dwPoint);
 

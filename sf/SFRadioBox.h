@@ -2,28 +2,13 @@
 // Abstract image toggle; CSFQTRadioBox realises it.
 
 #include "sf/ISFRadioBoxEvent.h"
-#include "sf/ImageRadioBox.h"
+#include "sf/SFToggle.h"
 #include "platform/WinTypes.h"
 
-class CSFRadioBox {
+class CSFRadioBox : public CSFToggle<ISFRadioBoxEvent> {
 public:
-    explicit CSFRadioBox(ISFRadioBoxEvent* handler = nullptr)
-        : m_pHandler(handler), m_nID(static_cast<unsigned int>(-1)) {}
-    CSFRadioBox(const CSFRadioBox&) = default;
-    CSFRadioBox& operator=(const CSFRadioBox&) = default;
-    virtual ~CSFRadioBox() {}
+    explicit CSFRadioBox(ISFRadioBoxEvent* handler = nullptr) : CSFToggle(handler) {}
 
-    virtual int Create(const wchar_t* /*text*/, unsigned long /*style*/, const tagRECT& /*rect*/,
-                       void* /*parent*/, unsigned int /*id*/) { return 0; }
-    virtual void SetCursor() {}
-    virtual int SetSkin(ImageRadioBox* /*style*/) { return 0; }
-    virtual void ShowWindow(int /*show*/) {}
-    virtual void MoveWindow(tagRECT* /*rect*/) {}
-    virtual void MoveWindow(int /*x*/, int /*y*/, int /*w*/, int /*h*/) {}
-    virtual void SetCheck(int /*check*/) {}
-    virtual int GetCheck() const { return 0; }
-    virtual int GetWindowTextW(wchar_t* /*buffer*/, int /*size*/) const { return 0; }
-    virtual void SetWindowTextW(const wchar_t* /*text*/) {}
     virtual void SetBoldHeavy(int /*bold*/) {}
     virtual void SetTextColor(unsigned long /*color*/) {}
     virtual void SetTextOffset(int /*offset*/) {}
@@ -42,8 +27,4 @@ public:
     virtual void EnableAnimation(int /*enable*/) {}
     virtual void SetExpendBGImge(int /*expand*/) {}
     virtual void SetIconAlign(unsigned long /*align*/) {}
-
-protected:
-    ISFRadioBoxEvent* m_pHandler;
-    unsigned int m_nID;
 };

@@ -186,10 +186,7 @@ void CSFRect::DeflateRect(const tagRECT* lpRect)
 
 void CSFRect::DeflateRect(int l, int t, int r, int b)
 {
-    left = WrapAdd(left, l);
-    top = WrapAdd(top, t);
-    right = WrapSub(right, r);
-    bottom = WrapSub(bottom, b);
+    InflateRect(WrapNeg(l), WrapNeg(t), WrapNeg(r), WrapNeg(b));
 }
 
 void CSFRect::OffsetRect(int x, int y)

@@ -2,31 +2,8 @@
 
 #include "sf/SFPoint.h"
 #include "sf/SFRect.h"
-#include "sf/SFWrapMath.h"
 
 #include <cstdint>
-
-using sf_detail::WrapAdd;
-using sf_detail::WrapNeg;
-using sf_detail::WrapSub;
-
-CSFSize::CSFSize(int initCX, int initCY)
-{
-    cx = initCX;
-    cy = initCY;
-}
-
-CSFSize::CSFSize(tagSIZE initSize)
-{
-    cx = initSize.cx;
-    cy = initSize.cy;
-}
-
-CSFSize::CSFSize(tagPOINT initPt)
-{
-    cx = initPt.x;
-    cy = initPt.y;
-}
 
 CSFSize::CSFSize(unsigned long dwSize)
 {
@@ -46,16 +23,15 @@ bool CSFSize::operator!=(tagSIZE size) const
     return !(*this == size);
 }
 
+// A size computes as the point of the same values.
 void CSFSize::operator+=(tagSIZE size)
 {
-    cx = WrapAdd(cx, size.cx);
-    cy = WrapAdd(cy, size.cy);
+    *this = CSFPoint(*this) + size;
 }
 
 void CSFSize::operator-=(tagSIZE size)
 {
-    cx = WrapSub(cx, size.cx);
-    cy = WrapSub(cy, size.cy);
+    *this = CSFPoint(*this) - size;
 }
 
 void CSFSize::SetSize(int CX, int CY)
@@ -66,21 +42,19 @@ void CSFSize::SetSize(int CX, int CY)
 
 CSFSize CSFSize::operator+(tagSIZE size) const
 {
-    return CSFSize(WrapAdd(cx, size.cx), WrapAdd(cy, size.cy));
+    return CSFPoint(*this) + size;
 }
 
 CSFSize CSFSize::operator-(tagSIZE size) const
 {
-    return CSFSize(WrapSub(cx, size.cx), WrapSub(cy, size.cy));
+    return CSFPoint(*this) - size;
 }
 
 CSFSize CSFSize::operator-() const
 {
-    return CSFSize(WrapNeg(cx), WrapNeg(cy));
+    return -CSFPoint(*this);
 }
 
-// Moving a point or a rectangle by a size is moving it by the point of the
-// same values.
 CSFPoint CSFSize::operator+(tagPOINT point) const
 {
     return CSFPoint(point) + *this;

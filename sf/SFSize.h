@@ -10,9 +10,9 @@ class CSFSize : public tagSIZE {
 public:
     // Left uninitialised, as a plain tagSIZE.
     CSFSize() {}
-    CSFSize(int initCX, int initCY);
-    CSFSize(tagSIZE initSize);
-    CSFSize(tagPOINT initPt);
+    CSFSize(int initCX, int initCY) : tagSIZE{ initCX, initCY } {}
+    CSFSize(tagSIZE initSize) : tagSIZE(initSize) {}
+    CSFSize(tagPOINT initPt) : tagSIZE{ initPt.x, initPt.y } {}
     // Low 16 bits sign-extended to cx, the high half to cy.
     CSFSize(unsigned long dwSize);
 

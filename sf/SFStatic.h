@@ -2,23 +2,13 @@
 // Abstract label; CSFQTStatic realises it.
 
 #include "sf/ISFStaticEvent.h"
+#include "sf/SFControl.h"
 #include "platform/WinTypes.h"
 
-class CSFStatic {
+class CSFStatic : public CSFControl<ISFStaticEvent> {
 public:
-    explicit CSFStatic(ISFStaticEvent* handler = nullptr)
-        : m_pHandler(handler), m_nID(static_cast<unsigned int>(-1)) {}
-    CSFStatic(const CSFStatic&) = default;
-    CSFStatic& operator=(const CSFStatic&) = default;
-    virtual ~CSFStatic() {}
+    explicit CSFStatic(ISFStaticEvent* handler = nullptr) : CSFControl(handler) {}
 
-    virtual int Create(const wchar_t* /*text*/, unsigned long /*style*/, const tagRECT& /*rect*/,
-                       void* /*parent*/, unsigned int /*id*/) { return 0; }
-    virtual void SetCursor() {}
-    virtual int SetSkin() { return 1; }
-    virtual void ShowWindow(int /*show*/) {}
-    virtual void MoveWindow(tagRECT* /*rect*/) {}
-    virtual void MoveWindow(int /*x*/, int /*y*/, int /*w*/, int /*h*/) {}
     virtual int GetStaticText(wchar_t* /*buffer*/, int /*size*/) const { return 0; }
     virtual void SetStaticText(const wchar_t* /*text*/) {}
     virtual void SetTextAlignFlag(unsigned int /*flags*/) {}
@@ -38,8 +28,4 @@ public:
     virtual void SetTooltipEnable(int /*enable*/) {}
     virtual tagRECT GetGeometry() { return tagRECT{ 0, 0, 0, 0 }; }
     virtual void StartTwinkle() {}
-
-protected:
-    ISFStaticEvent* m_pHandler;
-    unsigned int m_nID;
 };

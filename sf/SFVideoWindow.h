@@ -4,6 +4,7 @@
 
 #include "sf/ISFVideoWindowEvent.h"
 #include "sf/ImageVideoWindowStyle.h"
+#include "sf/SFControlBase.h"
 #include "platform/WinTypes.h"
 
 #include <string>
@@ -37,13 +38,9 @@ enum RENDER_DATA_TYPE {
     RENDER_DATA_YV12 = 1
 };
 
-class CSFVideoWindow {
+class CSFVideoWindow : public CSFControlBase<ISFVideoWindowEvent> {
 public:
-    explicit CSFVideoWindow(ISFVideoWindowEvent* handler = nullptr)
-        : m_pHandler(handler), m_nID(static_cast<unsigned int>(-1)) {}
-    CSFVideoWindow(const CSFVideoWindow&) = default;
-    CSFVideoWindow& operator=(const CSFVideoWindow&) = default;
-    virtual ~CSFVideoWindow() {}
+    explicit CSFVideoWindow(ISFVideoWindowEvent* handler = nullptr) : CSFControlBase(handler) {}
 
     virtual int Create(const wchar_t* /*text*/, const tagRECT& /*rect*/, void* /*parent*/,
                        unsigned int /*id*/) { return 0; }
@@ -97,8 +94,4 @@ public:
     // An equal grid of rows by columns in the same space; empty when either
     // is outside 1 to 64.
     static std::string GetGridLayout(int rows, int columns);
-
-protected:
-    ISFVideoWindowEvent* m_pHandler;
-    unsigned int m_nID;
 };

@@ -2,15 +2,13 @@
 // Abstract view, the container of a page; CSFQTView realises it.
 
 #include "sf/ISFViewEvent.h"
+#include "sf/SFControlBase.h"
 #include "sf/SFControlTypes.h"
 #include "platform/WinTypes.h"
 
-class CSFView {
+class CSFView : public CSFControlBase<ISFViewEvent> {
 public:
     explicit CSFView(ISFViewEvent* handler = nullptr);
-    CSFView(const CSFView&) = default;
-    CSFView& operator=(const CSFView&) = default;
-    virtual ~CSFView() {}
 
     virtual int Create(const wchar_t* /*className*/, const wchar_t* /*title*/,
                        unsigned long /*style*/, const tagRECT& /*rect*/, void* /*parent*/,
@@ -33,14 +31,9 @@ public:
     virtual void SetFrameClr(unsigned int /*color*/, int /*enable*/) {}
 
     void* GetUIWnd() const { return m_pHandler ? m_pHandler->GetUIWnd() : nullptr; }
-
-protected:
-    ISFViewEvent* m_pHandler;
-    unsigned int m_nID;
 };
 
-inline CSFView::CSFView(ISFViewEvent* handler)
-    : m_pHandler(handler), m_nID(static_cast<unsigned int>(-1))
+inline CSFView::CSFView(ISFViewEvent* handler) : CSFControlBase(handler)
 {
     if (m_pHandler)
         m_pHandler->ResetMessageIDs();

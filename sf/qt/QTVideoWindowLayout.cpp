@@ -69,6 +69,15 @@ struct SubWindow {
     int textIndex = INT_MAX;
 };
 
+// A separator covers the ten pixels around its boundary, along the cell beside it.
+void PlaceSeparator(CQTVideoWindowLayout::Separator& s, int left, int top, int right, int bottom)
+{
+    s.left = left;
+    s.top = top;
+    s.right = right;
+    s.bottom = bottom;
+}
+
 } // namespace
 
 CQTVideoWindowLayout::CQTVideoWindowLayout()
@@ -216,22 +225,12 @@ void CQTVideoWindowLayout::ComputeCells()
             m_mapCells.insert(r * m_nCols + c, cell);
 
             // A missing separator keeps its cells apart.
-            if (c < m_nCols - 1) {
-                Separator& s = m_mapSeparators[VerticalKey(r, c)];
-                const int boundary = (c + 1) * w;
-                s.left = boundary - 5;
-                s.right = boundary + 4;
-                s.top = cell.top;
-                s.bottom = cell.bottom;
-            }
-            if (r < m_nRows - 1) {
-                Separator& s = m_mapSeparators[HorizontalKey(r, c)];
-                const int boundary = (r + 1) * h;
-                s.top = boundary - 5;
-                s.bottom = boundary + 4;
-                s.left = cell.left;
-                s.right = cell.right;
-            }
+            if (c < m_nCols - 1)
+                PlaceSeparator(m_mapSeparators[VerticalKey(r, c)], (c + 1) * w - 5, cell.top,
+                               (c + 1) * w + 4, cell.bottom);
+            if (r < m_nRows - 1)
+                PlaceSeparator(m_mapSeparators[HorizontalKey(r, c)], cell.left, (r + 1) * h - 5,
+                               cell.right, (r + 1) * h + 4);
         }
     }
 }

@@ -1,8 +1,20 @@
 #include "sf/qt/SFApplication.h"
 
+#include "sf/qt/SFStyleSheetBounds.h"
+
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <sys/stat.h>
+
+namespace {
+
+// No window of ours comes near this; Qt's painters fail on far larger ones.
+constexpr int kMaxStyleLength = 4096;
+// Ours is a few kilobytes.
+constexpr qint64 kMaxStyleSheetBytes = 4 << 20;
+
+} // namespace
 
 QApplication* g_pApplication = nullptr;
 QString g_strAppDir;
@@ -33,10 +45,17 @@ void SFLoadStyleSheet(std::wstring path)
     g_strStyleSheetPath = QString::fromStdWString(path);
     if (!g_pApplication)
         return;
+    // Looked at before it is opened: a FIFO would block the open, a device
+    // never end; anything but a regular file counts as no sheet.
+    struct stat st;
+    if (::stat(QFile::encodeName(g_strStyleSheetPath).constData(), &st) != 0
+        || !S_ISREG(st.st_mode) || st.st_size > kMaxStyleSheetBytes)
+        return;
     QFile file(g_strStyleSheetPath);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
         return;
-    g_pApplication->setStyleSheet(QString::fromUtf8(file.readAll()));
+    const QString sheet = QString::fromUtf8(file.read(kMaxStyleSheetBytes));
+    g_pApplication->setStyleSheet(SFBoundStyleSheetLengths(sheet, kMaxStyleLength));
     file.close();
 }
 

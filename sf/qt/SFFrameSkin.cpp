@@ -77,34 +77,31 @@ void CSFFrameSkin::Load(const DialogStyle& s, bool dialog)
     for (int i = 0; i < PieceCount; ++i)
         m_pieces[i] = SFParseRect(*pieces[i]);
 
-    const std::wstring* sources[ButtonCount][3] = {
-        { &s.strBtn1Normal, &s.strBtn1Hover, &s.strBtn1Pressed },
-        { &s.strBtn2Normal, &s.strBtn2Hover, &s.strBtn2Pressed },
-        { &s.strBtn3Normal, &s.strBtn3Hover, &s.strBtn3Pressed },
-        { &s.strBtn4Normal, &s.strBtn4Hover, &s.strBtn4Pressed },
+    // Each caption button's cuts and images by state, and its hit rectangle.
+    struct ButtonFields {
+        const std::wstring* cuts[3];
+        const std::wstring* images[3];
+        const std::wstring* hit;
+    };
+    const ButtonFields buttons[ButtonCount] = {
+        { { &s.strBtn1Normal, &s.strBtn1Hover, &s.strBtn1Pressed },
+          { &s.strBtn1ImageNormal, &s.strBtn1ImageHover, &s.strBtn1ImagePressed }, &s.strBtn1Rect },
+        { { &s.strBtn2Normal, &s.strBtn2Hover, &s.strBtn2Pressed },
+          { &s.strBtn2ImageNormal, &s.strBtn2ImageHover, &s.strBtn2ImagePressed }, &s.strBtn2Rect },
+        { { &s.strBtn3Normal, &s.strBtn3Hover, &s.strBtn3Pressed },
+          { &s.strBtn3ImageNormal, &s.strBtn3ImageHover, &s.strBtn3ImagePressed }, &s.strBtn3Rect },
+        { { &s.strBtn4Normal, &s.strBtn4Hover, &s.strBtn4Pressed },
+          { &s.strBtn4ImageNormal, &s.strBtn4ImageHover, &s.strBtn4ImagePressed }, &s.strBtn4Rect },
     };
     for (int n = 0; n < ButtonCount; ++n) {
-        for (int st = 0; st < 3; ++st)
-            m_buttonSource[n][st] = SFParseRect(*sources[n][st]);
-    }
-
-    if (dialog) {
-        const std::wstring* images[ButtonCount][3] = {
-            { &s.strBtn1ImageNormal, &s.strBtn1ImageHover, &s.strBtn1ImagePressed },
-            { &s.strBtn2ImageNormal, &s.strBtn2ImageHover, &s.strBtn2ImagePressed },
-            { &s.strBtn3ImageNormal, &s.strBtn3ImageHover, &s.strBtn3ImagePressed },
-            { &s.strBtn4ImageNormal, &s.strBtn4ImageHover, &s.strBtn4ImagePressed },
-        };
-        for (int n = 0; n < ButtonCount; ++n) {
-            for (int st = 0; st < 3; ++st)
-                m_buttonImage[n][st] = SFLoadSkinPixmap(*images[n][st]);
+        for (int st = 0; st < 3; ++st) {
+            m_buttonSource[n][st] = SFParseRect(*buttons[n].cuts[st]);
+            // Only a dialog loads caption button images.
+            if (dialog)
+                m_buttonImage[n][st] = SFLoadSkinPixmap(*buttons[n].images[st]);
         }
+        m_buttonHit[n] = SFParseRect(*buttons[n].hit);
     }
-
-    const std::wstring* hits[ButtonCount] = { &s.strBtn1Rect, &s.strBtn2Rect, &s.strBtn3Rect,
-                                              &s.strBtn4Rect };
-    for (int n = 0; n < ButtonCount; ++n)
-        m_buttonHit[n] = SFParseRect(*hits[n]);
     m_title = SFParseRect(s.strTitleRect);
 
     if (dialog) {

@@ -29,7 +29,7 @@ const QColor kDisabledText = QColor::fromRgba(0xFF6B6B6Bu);
 } // namespace
 
 CSFQTButton::CSFQTButton(ISFButtonEvent* handler, QWidget* parent)
-    : QPushButton(parent), CSFButton(handler),
+    : CSFQTControl(handler, parent),
       m_textFlags(kFlagsCentre), m_elide(3), m_state(StateNormal), m_selected(0),
       m_keepSelected(1), m_textColor(Qt::black), m_textOffsetX(0), m_textOffsetY(0),
       m_tooltipEnabled(0), m_fade(this), m_iconPos(ICON_POS_STRETCH)
@@ -44,18 +44,11 @@ CSFQTButton::~CSFQTButton()
 int CSFQTButton::Create(const wchar_t* text, unsigned long style, const tagRECT& rect,
                         void* parent, unsigned int id)
 {
-    setParent(SFWidgetFromHandle(parent));
     const QString label = SFToQString(text);
     setText(label);
-    setGeometry(SFRectForCreate(rect));
-    m_nID = id;
-    SFNameControl(this, "button", id, label);
+    Place(parent, SFRectForCreate(rect), id, "button", label);
     SFApplyVisibleStyle(this, style);
     return 1;
-}
-
-void CSFQTButton::SetCursor()
-{
 }
 
 int CSFQTButton::SetSkin(ImageButtonStyle* style)
@@ -69,22 +62,6 @@ int CSFQTButton::SetSkin(ImageButtonStyle* style)
     SFLoadSkinPicture(m_picSelected, style->strHover);
     update();
     return 1;
-}
-
-void CSFQTButton::ShowWindow(int show)
-{
-    setVisible(show != 0);
-}
-
-void CSFQTButton::MoveWindow(tagRECT* rect)
-{
-    if (rect)
-        setGeometry(SFRectInclusive(*rect));
-}
-
-void CSFQTButton::MoveWindow(int x, int y, int w, int h)
-{
-    setGeometry(SFRectFromXYWH(x, y, w, h));
 }
 
 void CSFQTButton::EnableWindow(int enable)
@@ -134,22 +111,12 @@ void CSFQTButton::SetToolTipText(const wchar_t* text)
 
 int CSFQTButton::GetWindowTextW(wchar_t* buffer, int size) const
 {
-    const std::wstring value = text().toStdWString();
-    const int length = static_cast<int>(value.size());
-    // The whole text is what callers expect, but never past their buffer.
-    if (buffer && size > 0) {
-        const int count = std::min(length, size - 1);
-        std::copy(value.begin(), value.begin() + count, buffer);
-        buffer[count] = L'\0';
-    }
-    return length;
+    return SFCopyText(text(), buffer, size);
 }
 
 void CSFQTButton::SetWindowTextW(const wchar_t* text)
 {
-    const QString label = SFToQString(text);
-    setText(label);
-    setAccessibleName(label);
+    SetLabel(text);
 }
 
 void CSFQTButton::GetBTNWindowRect(tagRECT* rect)

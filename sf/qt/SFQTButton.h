@@ -3,13 +3,14 @@
 // optional text on top.
 
 #include "sf/SFButton.h"
+#include "sf/qt/SFQTControl.h"
 #include "sf/qt/SFPicFade.h"
 
 #include <QColor>
 #include <QPixmap>
 #include <QPushButton>
 
-class CSFQTButton : public QPushButton, public CSFButton {
+class CSFQTButton : public CSFQTControl<QPushButton, CSFButton> {
     Q_OBJECT
     Q_PROPERTY(float picTransparence READ GetPicTransparence WRITE SetPicTransparence)
 public:
@@ -21,11 +22,7 @@ public:
 
     int Create(const wchar_t* text, unsigned long style, const tagRECT& rect, void* parent,
                unsigned int id) override;
-    void SetCursor() override;
     int SetSkin(ImageButtonStyle* style) override;
-    void ShowWindow(int show) override;
-    void MoveWindow(tagRECT* rect) override;
-    void MoveWindow(int x, int y, int w, int h) override;
     void EnableWindow(int enable) override;
     void SetTextColor(unsigned long color) override;
     void SetTextOffset(int x, int y) override;

@@ -80,7 +80,7 @@ const QIcon& RowSpacer()
 } // namespace
 
 CSFQTComboBox::CSFQTComboBox(ISFComboBoxEvent* handler, QWidget* parent)
-    : QComboBox(parent), CSFComboBox(handler), m_state(0), m_popupOpen(0), m_originStyle(0),
+    : CSFQTControl(handler, parent), m_state(0), m_popupOpen(0), m_originStyle(0),
       m_sheetWanted(0), m_popupMade(0)
 {
     setFrame(false);
@@ -95,16 +95,9 @@ CSFQTComboBox::~CSFQTComboBox()
 
 int CSFQTComboBox::Create(unsigned long style, const tagRECT& rect, void* parent, unsigned int id)
 {
-    setParent(SFWidgetFromHandle(parent));
-    setGeometry(SFRectForCreate(rect));
-    m_nID = id;
-    SFNameControl(this, "combo", id, QString());
+    Place(parent, SFRectForCreate(rect), id, "combo");
     SFApplyVisibleStyle(this, style);
     return 1;
-}
-
-void CSFQTComboBox::SetCursor()
-{
 }
 
 int CSFQTComboBox::SetSkin(ImageComboBoxStyle* style)
@@ -136,23 +129,6 @@ int CSFQTComboBox::SetSkin(ImageComboBoxStyle* style)
         ApplySheet();
     update();
     return 1;
-}
-
-void CSFQTComboBox::ShowWindow(int show)
-{
-    setVisible(show != 0);
-}
-
-void CSFQTComboBox::MoveWindow(tagRECT* rect)
-{
-    if (rect)
-        MoveWindow(rect->left, rect->top, rect->right - rect->left + 1,
-                   rect->bottom - rect->top + 1);
-}
-
-void CSFQTComboBox::MoveWindow(int x, int y, int w, int h)
-{
-    setGeometry(SFRectFromXYWH(x, y, w, h));
 }
 
 int CSFQTComboBox::AddString(const wchar_t* text)

@@ -3,13 +3,14 @@
 // makes reaches the handler: the item setters are silent.
 
 #include "sf/SFComboBox.h"
+#include "sf/qt/SFQTControl.h"
 
 #include <QComboBox>
 #include <QMetaObject>
 #include <QPixmap>
 #include <QRect>
 
-class CSFQTComboBox : public QComboBox, public CSFComboBox {
+class CSFQTComboBox : public CSFQTControl<QComboBox, CSFComboBox> {
     Q_OBJECT
 public:
     enum Slice { Normal, Hover, PressedDown, PressedUp, Disabled, Slice6, Slice7, SliceCount };
@@ -20,11 +21,7 @@ public:
     ~CSFQTComboBox() override;
 
     int Create(unsigned long style, const tagRECT& rect, void* parent, unsigned int id) override;
-    void SetCursor() override;
     int SetSkin(ImageComboBoxStyle* style) override;
-    void ShowWindow(int show) override;
-    void MoveWindow(tagRECT* rect) override;
-    void MoveWindow(int x, int y, int w, int h) override;
     int AddString(const wchar_t* text) override;
     int DeleteString(unsigned int index) override;
     int GetLBText(int index, wchar_t* buffer) const override;

@@ -7,7 +7,7 @@
 #include <QPointer>
 
 CSFQTDialog::CSFQTDialog(ISFDialogEvent* handler, QWidget* parent)
-    : CSFQTSkinWindow<QDialog>(handler, parent, false)
+    : CSFQTSkinWindow<QDialog, CSFQTDialog>(handler, parent, false)
 {
     setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint | Qt::WindowSystemMenuHint);
     SFNameControl(this, "dialog", static_cast<unsigned int>(-1), QString());
@@ -31,22 +31,6 @@ int CSFQTDialog::DoModalDlg()
     setFocus();
     const int result = exec();
     return result == QDialog::Rejected ? 2 : result;
-}
-
-void CSFQTDialog::MFCOK()
-{
-    accept();
-}
-
-void CSFQTDialog::MFCCancel()
-{
-    reject();
-}
-
-void CSFQTDialog::SendDlgMessage(unsigned int msg, unsigned int, long)
-{
-    if (msg == 16)
-        reject();
 }
 
 int CSFQTDialog::IsDlgZoomed()
@@ -116,24 +100,4 @@ void CSFQTDialog::customEvent(QEvent* e)
         else if (ev->lParam == 2)
             reject();
     }
-}
-
-void CSFQTDialog::EmitClose()
-{
-    emit sgnClose();
-}
-
-void CSFQTDialog::EmitMaximized()
-{
-    emit sgnMaximized();
-}
-
-void CSFQTDialog::EmitMinimized()
-{
-    emit sgnMinimized();
-}
-
-void CSFQTDialog::EmitNormal()
-{
-    emit sgnNormal();
 }

@@ -5,7 +5,7 @@
 
 #include <QDialog>
 
-class CSFQTDialog : public CSFQTSkinWindow<QDialog> {
+class CSFQTDialog : public CSFQTSkinWindow<QDialog, CSFQTDialog> {
     Q_OBJECT
 public:
     explicit CSFQTDialog(ISFDialogEvent* handler, QWidget* parent = nullptr);
@@ -13,10 +13,6 @@ public:
 
     // 1 accepted, 2 rejected or closed.
     int DoModalDlg() override;
-    void MFCOK() override;
-    void MFCCancel() override;
-    // Only 16, the close message, does anything.
-    void SendDlgMessage(unsigned int msg, unsigned int wParam, long lParam) override;
     int IsDlgZoomed() override;
     int ModifyDlgStyleEx(unsigned long remove, unsigned long add, unsigned int flags) override;
     void MacShowMaximize(bool maximize) override;
@@ -36,8 +32,4 @@ signals:
 
 protected:
     void customEvent(QEvent* e) override;
-    void EmitClose() override;
-    void EmitMaximized() override;
-    void EmitMinimized() override;
-    void EmitNormal() override;
 };

@@ -14,7 +14,7 @@
 #include <string>
 
 CSFQTEditCtrl::CSFQTEditCtrl(ISFEditCtrlEvent* handler, QWidget* parent)
-    : QLineEdit(parent), CSFEditCtrl(handler), m_commitSkip(0)
+    : CSFQTControl(handler, parent), m_commitSkip(0)
 {
     setAutoFillBackground(true);
     setFrame(false);
@@ -34,18 +34,11 @@ CSFQTEditCtrl::~CSFQTEditCtrl()
 int CSFQTEditCtrl::Create(unsigned long style, const tagRECT& rect, void* parent,
                           unsigned int id, bool password)
 {
-    setParent(SFWidgetFromHandle(parent));
-    setGeometry(SFRectForCreate(rect));
-    m_nID = id;
+    Place(parent, SFRectForCreate(rect), id, "edit");
     if (password)
         setEchoMode(QLineEdit::Password);
-    SFNameControl(this, "edit", id, QString());
     SFApplyVisibleStyle(this, style);
     return 1;
-}
-
-void CSFQTEditCtrl::SetCursor()
-{
 }
 
 int CSFQTEditCtrl::SetSkin(const wchar_t* image)
@@ -57,22 +50,6 @@ int CSFQTEditCtrl::SetSkin(const wchar_t* image)
     pal.setBrush(QPalette::All, QPalette::Base, QBrush(pixmap));
     setPalette(pal);
     return 1;
-}
-
-void CSFQTEditCtrl::ShowWindow(int show)
-{
-    setVisible(show != 0);
-}
-
-void CSFQTEditCtrl::MoveWindow(tagRECT* rect)
-{
-    if (rect)
-        setGeometry(SFRectInclusive(*rect));
-}
-
-void CSFQTEditCtrl::MoveWindow(int x, int y, int w, int h)
-{
-    setGeometry(SFRectFromXYWH(x, y, w, h));
 }
 
 int CSFQTEditCtrl::GetWindowTextW(wchar_t* buffer, int size) const

@@ -3,11 +3,12 @@
 // handler exactly once.
 
 #include "sf/SFEditCtrl.h"
+#include "sf/qt/SFQTControl.h"
 
 #include <QLineEdit>
 #include <QString>
 
-class CSFQTEditCtrl : public QLineEdit, public CSFEditCtrl {
+class CSFQTEditCtrl : public CSFQTControl<QLineEdit, CSFEditCtrl> {
     Q_OBJECT
 public:
     explicit CSFQTEditCtrl(ISFEditCtrlEvent* handler, QWidget* parent = nullptr);
@@ -15,11 +16,7 @@ public:
 
     int Create(unsigned long style, const tagRECT& rect, void* parent, unsigned int id,
                bool password) override;
-    void SetCursor() override;
     int SetSkin(const wchar_t* image) override;
-    void ShowWindow(int show) override;
-    void MoveWindow(tagRECT* rect) override;
-    void MoveWindow(int x, int y, int w, int h) override;
     // Copies without a terminator and zeroes buffer[size - 1]; returns the
     // full length.
     int GetWindowTextW(wchar_t* buffer, int size) const override;

@@ -13,7 +13,7 @@
 #include <QVariant>
 
 CSFQTMainWindow::CSFQTMainWindow(ISFDialogEvent* handler, QWidget* parent)
-    : CSFQTSkinWindow<QMainWindow>(handler, parent, true), m_pResizeAnimation(nullptr),
+    : CSFQTSkinWindow<QMainWindow, CSFQTMainWindow>(handler, parent, true), m_pResizeAnimation(nullptr),
       m_maximised(false)
 {
     setWindowFlags(Qt::FramelessWindowHint | Qt::WindowSystemMenuHint
@@ -38,22 +38,6 @@ CSFQTMainWindow::~CSFQTMainWindow()
 int CSFQTMainWindow::DoModalDlg()
 {
     return -1;
-}
-
-void CSFQTMainWindow::MFCOK()
-{
-    accept();
-}
-
-void CSFQTMainWindow::MFCCancel()
-{
-    reject();
-}
-
-void CSFQTMainWindow::SendDlgMessage(unsigned int msg, unsigned int, long)
-{
-    if (msg == 16)
-        reject();
 }
 
 int CSFQTMainWindow::IsDlgZoomed()
@@ -164,7 +148,7 @@ QRect CSFQTMainWindow::CenterArea() const
 {
     QWidget* parent = parentWidget();
     if (!parent)
-        return CSFQTSkinWindow<QMainWindow>::CenterArea();
+        return CSFQTSkinWindow<QMainWindow, CSFQTMainWindow>::CenterArea();
     // A window is placed in screen coordinates, a child in its parent's.
     if (isWindow())
         return QRect(parent->mapToGlobal(QPoint(0, 0)), parent->size());
@@ -181,7 +165,7 @@ bool CSFQTMainWindow::nativeEvent(const QByteArray& eventType, void* message, qi
 void CSFQTMainWindow::closeEvent(QCloseEvent* e)
 {
     const bool wasVisible = isVisible();
-    CSFQTSkinWindow<QMainWindow>::closeEvent(e);
+    CSFQTSkinWindow<QMainWindow, CSFQTMainWindow>::closeEvent(e);
     if (!e->isAccepted() || wasVisible || !QGuiApplication::quitOnLastWindowClosed()
         || !testAttribute(Qt::WA_QuitOnClose))
         return;
@@ -194,24 +178,4 @@ void CSFQTMainWindow::closeEvent(QCloseEvent* e)
             return;
     }
     QCoreApplication::quit();
-}
-
-void CSFQTMainWindow::EmitClose()
-{
-    emit sgnClose();
-}
-
-void CSFQTMainWindow::EmitMaximized()
-{
-    emit sgnMaximized();
-}
-
-void CSFQTMainWindow::EmitMinimized()
-{
-    emit sgnMinimized();
-}
-
-void CSFQTMainWindow::EmitNormal()
-{
-    emit sgnNormal();
 }

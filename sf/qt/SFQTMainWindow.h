@@ -11,7 +11,7 @@ class QAction;
 class QMenu;
 class QPropertyAnimation;
 
-class CSFQTMainWindow : public CSFQTSkinWindow<QMainWindow> {
+class CSFQTMainWindow : public CSFQTSkinWindow<QMainWindow, CSFQTMainWindow> {
     Q_OBJECT
 public:
     explicit CSFQTMainWindow(ISFDialogEvent* handler, QWidget* parent = nullptr);
@@ -19,10 +19,6 @@ public:
 
     // A main window is never modal: -1.
     int DoModalDlg() override;
-    void MFCOK() override;
-    void MFCCancel() override;
-    // Only 16, the close message, does anything.
-    void SendDlgMessage(unsigned int msg, unsigned int wParam, long lParam) override;
     int IsDlgZoomed() override;
     int ModifyDlgStyleEx(unsigned long remove, unsigned long add, unsigned int flags) override;
     void MacShowMaximize(bool maximize) override;
@@ -51,10 +47,6 @@ protected:
     QRect CenterArea() const override;
     bool nativeEvent(const QByteArray& eventType, void* message, qintptr* result) override;
     void closeEvent(QCloseEvent* e) override;
-    void EmitClose() override;
-    void EmitMaximized() override;
-    void EmitMinimized() override;
-    void EmitNormal() override;
 
 private:
     QRect m_restoreRect;

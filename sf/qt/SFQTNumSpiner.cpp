@@ -4,7 +4,7 @@
 #include "sf/qt/SFSkinParse.h"
 
 CSFQTNumSpiner::CSFQTNumSpiner(ISFNumSpinerEvent* handler, QWidget* parent)
-    : QSpinBox(parent), CSFNumSpiner(handler), m_originStyle(0)
+    : CSFQTControl(handler, parent), m_originStyle(0)
 {
     setAttribute(Qt::WA_MacShowFocusRect, false);
     setFrame(false);
@@ -19,10 +19,7 @@ CSFQTNumSpiner::~CSFQTNumSpiner()
 
 int CSFQTNumSpiner::Create(const wchar_t*, const tagRECT& rect, void* parent, unsigned int id)
 {
-    setParent(SFWidgetFromHandle(parent));
-    setGeometry(SFRectForCreate(rect));
-    m_nID = id;
-    SFNameControl(this, "spinner", id, QString());
+    Place(parent, SFRectForCreate(rect), id, "spinner");
     return 1;
 }
 
@@ -69,7 +66,7 @@ void CSFQTNumSpiner::StepDown()
 
 QString CSFQTNumSpiner::SkinStyleSheet(const ImageNumSpinerStyle& s)
 {
-    const auto url = [](const std::wstring& file) { return SFSkinFilePath(file); };
+    const auto url = [](const std::wstring& file) { return SFCssQuoted(SFSkinFilePath(file)); };
     return QStringLiteral("QSpinBox { padding: 0 8px; border-image: url(") + url(s.strFrame)
          + QStringLiteral(");}")
          + QStringLiteral("QSpinBox::up-button {width: 21px; border-image: url(") + url(s.strUpNormal)
@@ -96,22 +93,6 @@ int CSFQTNumSpiner::SetSkin(ImageNumSpinerStyle* style)
         return 0;
     setStyleSheet(SkinStyleSheet(*style));
     return 1;
-}
-
-void CSFQTNumSpiner::ShowWindow(int show)
-{
-    setVisible(show != 0);
-}
-
-void CSFQTNumSpiner::MoveWindow(tagRECT* rect)
-{
-    if (rect)
-        setGeometry(SFRectInclusive(*rect));
-}
-
-void CSFQTNumSpiner::MoveWindow(int x, int y, int w, int h)
-{
-    setGeometry(SFRectFromXYWH(x, y, w, h));
 }
 
 void CSFQTNumSpiner::EnableWindow(int enable)

@@ -3,10 +3,11 @@
 // every change, also those made from code.
 
 #include "sf/SFNumSpiner.h"
+#include "sf/qt/SFQTControl.h"
 
 #include <QSpinBox>
 
-class CSFQTNumSpiner : public QSpinBox, public CSFNumSpiner {
+class CSFQTNumSpiner : public CSFQTControl<QSpinBox, CSFNumSpiner> {
     Q_OBJECT
 public:
     explicit CSFQTNumSpiner(ISFNumSpinerEvent* handler, QWidget* parent = nullptr);
@@ -22,9 +23,6 @@ public:
     void StepUp() override;
     void StepDown() override;
     int SetSkin(ImageNumSpinerStyle* style) override;
-    void ShowWindow(int show) override;
-    void MoveWindow(tagRECT* rect) override;
-    void MoveWindow(int x, int y, int w, int h) override;
     void EnableWindow(int enable) override;
     void SetCircleStep(int circle) override;
     void SetOriginStyle(int origin) override;

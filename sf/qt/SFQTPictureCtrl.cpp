@@ -6,7 +6,7 @@
 #include <QPainter>
 
 CSFQTPictureCtrl::CSFQTPictureCtrl(ISFPictureCtrlEvent* handler, QWidget* parent)
-    : QLabel(parent), CSFPictureCtrl(handler)
+    : CSFQTControl(handler, parent)
 {
 }
 
@@ -20,37 +20,9 @@ int CSFQTPictureCtrl::Create(const wchar_t* text, unsigned long style, const tag
     const QString label = SFToQString(text);
     setText(label);
     setAlignment(Qt::Alignment::fromInt(132));
-    setParent(SFWidgetFromHandle(parent));
-    setGeometry(SFRectForCreate(rect));
-    m_nID = id;
-    SFNameControl(this, "picture", id, label);
+    Place(parent, SFRectForCreate(rect), id, "picture", label);
     SFApplyVisibleStyle(this, style);
     return 1;
-}
-
-void CSFQTPictureCtrl::SetCursor()
-{
-}
-
-int CSFQTPictureCtrl::SetSkin()
-{
-    return 1;
-}
-
-void CSFQTPictureCtrl::ShowWindow(int show)
-{
-    setVisible(show != 0);
-}
-
-void CSFQTPictureCtrl::MoveWindow(tagRECT* rect)
-{
-    if (rect)
-        setGeometry(SFRectInclusive(*rect));
-}
-
-void CSFQTPictureCtrl::MoveWindow(int x, int y, int w, int h)
-{
-    setGeometry(SFRectFromXYWH(x, y, w, h));
 }
 
 void CSFQTPictureCtrl::SetImage(const wchar_t* file)

@@ -1,5 +1,8 @@
 #include "sf/qt/SFQTSkinWindow.h"
 
+#include "sf/qt/SFQTDialog.h"
+#include "sf/qt/SFQTMainWindow.h"
+
 #include "sf/qt/SFApplication.h"
 #include "sf/qt/SFCustomEvent.h"
 #include "sf/qt/SFEventDispatch.h"
@@ -31,8 +34,8 @@
 #include <algorithm>
 #include <string>
 
-template <class QtBase>
-CSFQTSkinWindow<QtBase>::CSFQTSkinWindow(ISFDialogEvent* handler, QWidget* parent, bool mainWindow)
+template <class QtBase, class Window>
+CSFQTSkinWindow<QtBase, Window>::CSFQTSkinWindow(ISFDialogEvent* handler, QWidget* parent, bool mainWindow)
     : QtBase(parent), CSFDialog(handler), m_bMainWindow(mainWindow), m_pTitle(nullptr),
       m_bDrag(false), m_nCurButton(0), m_nButtonState(0), m_nNcLBtnDown(0)
 {
@@ -43,8 +46,8 @@ CSFQTSkinWindow<QtBase>::CSFQTSkinWindow(ISFDialogEvent* handler, QWidget* paren
     this->setFocusPolicy(Qt::StrongFocus);
 }
 
-template <class QtBase>
-CSFQTSkinWindow<QtBase>::~CSFQTSkinWindow()
+template <class QtBase, class Window>
+CSFQTSkinWindow<QtBase, Window>::~CSFQTSkinWindow()
 {
     m_skin.Release();
     delete m_pTitle;
@@ -58,14 +61,14 @@ CSFQTSkinWindow<QtBase>::~CSFQTSkinWindow()
     m_pHandler = nullptr;
 }
 
-template <class QtBase>
-int CSFQTSkinWindow<QtBase>::CreateDlg(void*)
+template <class QtBase, class Window>
+int CSFQTSkinWindow<QtBase, Window>::CreateDlg(void*)
 {
     return 1;
 }
 
-template <class QtBase>
-int CSFQTSkinWindow<QtBase>::Create(const wchar_t* title, void* parent)
+template <class QtBase, class Window>
+int CSFQTSkinWindow<QtBase, Window>::Create(const wchar_t* title, void* parent)
 {
     if (QWidget* p = SFWidgetFromHandle(parent))
         this->setParent(p, this->windowFlags());
@@ -75,15 +78,15 @@ int CSFQTSkinWindow<QtBase>::Create(const wchar_t* title, void* parent)
     return 1;
 }
 
-template <class QtBase>
-void CSFQTSkinWindow<QtBase>::ShowWindow(int show)
+template <class QtBase, class Window>
+void CSFQTSkinWindow<QtBase, Window>::ShowWindow(int show)
 {
     this->setWindowModality(Qt::NonModal);
     this->setVisible(show != 0);
 }
 
-template <class QtBase>
-void CSFQTSkinWindow<QtBase>::MoveWindow(tagRECT* rect)
+template <class QtBase, class Window>
+void CSFQTSkinWindow<QtBase, Window>::MoveWindow(tagRECT* rect)
 {
     if (!rect)
         return;
@@ -92,29 +95,29 @@ void CSFQTSkinWindow<QtBase>::MoveWindow(tagRECT* rect)
     m_preferredSize = r.size();
 }
 
-template <class QtBase>
-void CSFQTSkinWindow<QtBase>::MoveWindow(int x, int y, int w, int h)
+template <class QtBase, class Window>
+void CSFQTSkinWindow<QtBase, Window>::MoveWindow(int x, int y, int w, int h)
 {
     this->setGeometry(SFRectFromXYWH(x, y, w, h));
     m_preferredSize = QSize(w, h);
 }
 
-template <class QtBase>
-QScreen* CSFQTSkinWindow<QtBase>::CurrentScreen() const
+template <class QtBase, class Window>
+QScreen* CSFQTSkinWindow<QtBase, Window>::CurrentScreen() const
 {
     QScreen* screen = this->screen();
     return screen ? screen : QGuiApplication::primaryScreen();
 }
 
-template <class QtBase>
-QRect CSFQTSkinWindow<QtBase>::CenterArea() const
+template <class QtBase, class Window>
+QRect CSFQTSkinWindow<QtBase, Window>::CenterArea() const
 {
     QScreen* screen = CurrentScreen();
     return screen ? screen->availableGeometry() : QRect();
 }
 
-template <class QtBase>
-void CSFQTSkinWindow<QtBase>::CenterWindow(void**)
+template <class QtBase, class Window>
+void CSFQTSkinWindow<QtBase, Window>::CenterWindow(void**)
 {
     QScreen* screen = CurrentScreen();
     if (!screen)
@@ -129,8 +132,8 @@ void CSFQTSkinWindow<QtBase>::CenterWindow(void**)
     this->setGeometry(x, y, w, h);
 }
 
-template <class QtBase>
-void CSFQTSkinWindow<QtBase>::SetSkin(DialogStyle* style)
+template <class QtBase, class Window>
+void CSFQTSkinWindow<QtBase, Window>::SetSkin(DialogStyle* style)
 {
     if (!style)
         return;
@@ -147,8 +150,8 @@ void CSFQTSkinWindow<QtBase>::SetSkin(DialogStyle* style)
         m_composed = m_skin.Compose(this->width(), this->height(), m_bMainWindow);
 }
 
-template <class QtBase>
-void CSFQTSkinWindow<QtBase>::Screen2Client(tagPOINT* pt)
+template <class QtBase, class Window>
+void CSFQTSkinWindow<QtBase, Window>::Screen2Client(tagPOINT* pt)
 {
     if (!pt)
         return;
@@ -157,8 +160,8 @@ void CSFQTSkinWindow<QtBase>::Screen2Client(tagPOINT* pt)
     pt->y = p.y();
 }
 
-template <class QtBase>
-void CSFQTSkinWindow<QtBase>::Screen2Client(tagRECT* rect)
+template <class QtBase, class Window>
+void CSFQTSkinWindow<QtBase, Window>::Screen2Client(tagRECT* rect)
 {
     if (!rect)
         return;
@@ -167,33 +170,33 @@ void CSFQTSkinWindow<QtBase>::Screen2Client(tagRECT* rect)
     *rect = tagRECT{ tl.x(), tl.y(), br.x(), br.y() };
 }
 
-template <class QtBase>
-void CSFQTSkinWindow<QtBase>::GetDlgClientRect(tagRECT* rect)
+template <class QtBase, class Window>
+void CSFQTSkinWindow<QtBase, Window>::GetDlgClientRect(tagRECT* rect)
 {
     if (rect)
         *rect = tagRECT{ 0, 0, this->width(), this->height() };
 }
 
-template <class QtBase>
-void CSFQTSkinWindow<QtBase>::GetDlgWindowRect(tagRECT* rect)
+template <class QtBase, class Window>
+void CSFQTSkinWindow<QtBase, Window>::GetDlgWindowRect(tagRECT* rect)
 {
     if (rect)
         *rect = SFToTagRectExclusive(this->frameGeometry());
 }
 
-template <class QtBase>
-void CSFQTSkinWindow<QtBase>::SetDrawBackGround(int)
+template <class QtBase, class Window>
+void CSFQTSkinWindow<QtBase, Window>::SetDrawBackGround(int)
 {
 }
 
-template <class QtBase>
-int CSFQTSkinWindow<QtBase>::DlgIsWindow()
+template <class QtBase, class Window>
+int CSFQTSkinWindow<QtBase, Window>::DlgIsWindow()
 {
     return this->isWindow() ? 1 : 0;
 }
 
-template <class QtBase>
-int CSFQTSkinWindow<QtBase>::SetDlgWindowPos(void*, int x, int y, int cx, int cy,
+template <class QtBase, class Window>
+int CSFQTSkinWindow<QtBase, Window>::SetDlgWindowPos(void*, int x, int y, int cx, int cy,
                                              unsigned int flags)
 {
     const QRect g = this->geometry();
@@ -210,8 +213,8 @@ int CSFQTSkinWindow<QtBase>::SetDlgWindowPos(void*, int x, int y, int cx, int cy
     return 1;
 }
 
-template <class QtBase>
-void CSFQTSkinWindow<QtBase>::SetWindowTextW(const wchar_t* text)
+template <class QtBase, class Window>
+void CSFQTSkinWindow<QtBase, Window>::SetWindowTextW(const wchar_t* text)
 {
     const QString title = SFToQString(text);
     if (!m_pTitle) {
@@ -229,8 +232,8 @@ void CSFQTSkinWindow<QtBase>::SetWindowTextW(const wchar_t* text)
         this->setAccessibleName(title);
 }
 
-template <class QtBase>
-void CSFQTSkinWindow<QtBase>::PlaceTitle()
+template <class QtBase, class Window>
+void CSFQTSkinWindow<QtBase, Window>::PlaceTitle()
 {
     if (!m_pTitle)
         return;
@@ -255,34 +258,34 @@ void CSFQTSkinWindow<QtBase>::PlaceTitle()
     m_pTitle->setGeometry(QRect(QPoint(x, 5), QPoint(x + tw, th + 6)));
 }
 
-template <class QtBase>
-void CSFQTSkinWindow<QtBase>::SetDlgIcon(unsigned int)
+template <class QtBase, class Window>
+void CSFQTSkinWindow<QtBase, Window>::SetDlgIcon(unsigned int)
 {
 }
 
-template <class QtBase>
-void CSFQTSkinWindow<QtBase>::SetDlgIcon(const wchar_t* file)
+template <class QtBase, class Window>
+void CSFQTSkinWindow<QtBase, Window>::SetDlgIcon(const wchar_t* file)
 {
-    const QString path = m_bMainWindow ? g_strSkinPath + SFToQString(file) : SFToQString(file);
+    const QString path = m_bMainWindow ? SFSkinFilePath(file ? file : L"") : SFToQString(file);
     const QIcon icon(path);
     this->setWindowIcon(icon);
     QApplication::setWindowIcon(icon);
 }
 
-template <class QtBase>
-int CSFQTSkinWindow<QtBase>::IsDlgVisible()
+template <class QtBase, class Window>
+int CSFQTSkinWindow<QtBase, Window>::IsDlgVisible()
 {
     return this->isVisible() ? 1 : 0;
 }
 
-template <class QtBase>
-void CSFQTSkinWindow<QtBase>::EnableNcLBtnDown(int enable)
+template <class QtBase, class Window>
+void CSFQTSkinWindow<QtBase, Window>::EnableNcLBtnDown(int enable)
 {
     m_nNcLBtnDown = enable;
 }
 
-template <class QtBase>
-unsigned int CSFQTSkinWindow<QtBase>::SetDlgTimer(unsigned int id, unsigned int ms)
+template <class QtBase, class Window>
+unsigned int CSFQTSkinWindow<QtBase, Window>::SetDlgTimer(unsigned int id, unsigned int ms)
 {
     const int key = static_cast<int>(id);
     const auto it = m_timers.constFind(key);
@@ -294,8 +297,8 @@ unsigned int CSFQTSkinWindow<QtBase>::SetDlgTimer(unsigned int id, unsigned int 
     return static_cast<unsigned int>(qtId);
 }
 
-template <class QtBase>
-int CSFQTSkinWindow<QtBase>::KillDlgTimer(unsigned int id)
+template <class QtBase, class Window>
+int CSFQTSkinWindow<QtBase, Window>::KillDlgTimer(unsigned int id)
 {
     const auto it = m_timers.find(static_cast<int>(id));
     if (it == m_timers.end())
@@ -305,14 +308,14 @@ int CSFQTSkinWindow<QtBase>::KillDlgTimer(unsigned int id)
     return 1;
 }
 
-template <class QtBase>
-void CSFQTSkinWindow<QtBase>::SetSizeRoundCorner(const wchar_t* size)
+template <class QtBase, class Window>
+void CSFQTSkinWindow<QtBase, Window>::SetSizeRoundCorner(const wchar_t* size)
 {
     m_skin.SetRadii(SFParseSize(size));
 }
 
-template <class QtBase>
-void CSFQTSkinWindow<QtBase>::MacShowFullScreen(bool full)
+template <class QtBase, class Window>
+void CSFQTSkinWindow<QtBase, Window>::MacShowFullScreen(bool full)
 {
     if (full)
         this->showFullScreen();
@@ -320,8 +323,27 @@ void CSFQTSkinWindow<QtBase>::MacShowFullScreen(bool full)
         this->showNormal();
 }
 
-template <class QtBase>
-void CSFQTSkinWindow<QtBase>::MacShowMinimize(bool minimize)
+template <class QtBase, class Window>
+void CSFQTSkinWindow<QtBase, Window>::MFCOK()
+{
+    Self()->accept();
+}
+
+template <class QtBase, class Window>
+void CSFQTSkinWindow<QtBase, Window>::MFCCancel()
+{
+    Self()->reject();
+}
+
+template <class QtBase, class Window>
+void CSFQTSkinWindow<QtBase, Window>::SendDlgMessage(unsigned int msg, unsigned int, long)
+{
+    if (msg == 16)
+        Self()->reject();
+}
+
+template <class QtBase, class Window>
+void CSFQTSkinWindow<QtBase, Window>::MacShowMinimize(bool minimize)
 {
     if (minimize)
         this->showMinimized();
@@ -329,38 +351,38 @@ void CSFQTSkinWindow<QtBase>::MacShowMinimize(bool minimize)
         this->showNormal();
 }
 
-template <class QtBase>
-int CSFQTSkinWindow<QtBase>::HasFocus()
+template <class QtBase, class Window>
+int CSFQTSkinWindow<QtBase, Window>::HasFocus()
 {
     return this->hasFocus() ? 1 : 0;
 }
 
-template <class QtBase>
-void CSFQTSkinWindow<QtBase>::SetFocus()
+template <class QtBase, class Window>
+void CSFQTSkinWindow<QtBase, Window>::SetFocus()
 {
     this->setFocus();
 }
 
-template <class QtBase>
-int CSFQTSkinWindow<QtBase>::IsActiveWindow()
+template <class QtBase, class Window>
+int CSFQTSkinWindow<QtBase, Window>::IsActiveWindow()
 {
     return this->isActiveWindow() ? 1 : 0;
 }
 
-template <class QtBase>
-void CSFQTSkinWindow<QtBase>::ActiveWindow()
+template <class QtBase, class Window>
+void CSFQTSkinWindow<QtBase, Window>::ActiveWindow()
 {
     this->activateWindow();
 }
 
-template <class QtBase>
-bool CSFQTSkinWindow<QtBase>::IsMaximisedWindow() const
+template <class QtBase, class Window>
+bool CSFQTSkinWindow<QtBase, Window>::IsMaximisedWindow() const
 {
     return (this->windowState() & Qt::WindowMaximized) != 0;
 }
 
-template <class QtBase>
-bool CSFQTSkinWindow<QtBase>::DispatchCustomEvent(QEvent* e)
+template <class QtBase, class Window>
+bool CSFQTSkinWindow<QtBase, Window>::DispatchCustomEvent(QEvent* e)
 {
     if (!SFIsCustomEvent(e))
         return false;
@@ -369,15 +391,15 @@ bool CSFQTSkinWindow<QtBase>::DispatchCustomEvent(QEvent* e)
     return true;
 }
 
-template <class QtBase>
-void CSFQTSkinWindow<QtBase>::customEvent(QEvent* e)
+template <class QtBase, class Window>
+void CSFQTSkinWindow<QtBase, Window>::customEvent(QEvent* e)
 {
     if (!DispatchCustomEvent(e))
         QtBase::customEvent(e);
 }
 
-template <class QtBase>
-void CSFQTSkinWindow<QtBase>::resizeEvent(QResizeEvent* e)
+template <class QtBase, class Window>
+void CSFQTSkinWindow<QtBase, Window>::resizeEvent(QResizeEvent* e)
 {
     if (m_skin.HasFrame()) {
         const int W = this->width();
@@ -397,8 +419,8 @@ void CSFQTSkinWindow<QtBase>::resizeEvent(QResizeEvent* e)
     QtBase::resizeEvent(e);
 }
 
-template <class QtBase>
-void CSFQTSkinWindow<QtBase>::paintEvent(QPaintEvent* e)
+template <class QtBase, class Window>
+void CSFQTSkinWindow<QtBase, Window>::paintEvent(QPaintEvent* e)
 {
     if (m_composed.isNull()) {
         QtBase::paintEvent(e);
@@ -409,16 +431,16 @@ void CSFQTSkinWindow<QtBase>::paintEvent(QPaintEvent* e)
     painter.drawPixmap(this->rect(), m_composed);
 }
 
-template <class QtBase>
-void CSFQTSkinWindow<QtBase>::RepaintButton(int n)
+template <class QtBase, class Window>
+void CSFQTSkinWindow<QtBase, Window>::RepaintButton(int n)
 {
     const QRect hit = m_skin.ButtonHitRect(n);
     if (CSFFrameSkin::IsValidRect(hit))
         this->update(hit);
 }
 
-template <class QtBase>
-void CSFQTSkinWindow<QtBase>::UpdateHover(const QPoint& pos)
+template <class QtBase, class Window>
+void CSFQTSkinWindow<QtBase, Window>::UpdateHover(const QPoint& pos)
 {
     const int n = m_skin.ButtonAt(pos);
     if (n != m_nCurButton) {
@@ -433,8 +455,8 @@ void CSFQTSkinWindow<QtBase>::UpdateHover(const QPoint& pos)
     }
 }
 
-template <class QtBase>
-void CSFQTSkinWindow<QtBase>::mousePressEvent(QMouseEvent* e)
+template <class QtBase, class Window>
+void CSFQTSkinWindow<QtBase, Window>::mousePressEvent(QMouseEvent* e)
 {
     if (e->button() != Qt::LeftButton) {
         QtBase::mousePressEvent(e);
@@ -456,8 +478,8 @@ void CSFQTSkinWindow<QtBase>::mousePressEvent(QMouseEvent* e)
     }
 }
 
-template <class QtBase>
-void CSFQTSkinWindow<QtBase>::mouseMoveEvent(QMouseEvent* e)
+template <class QtBase, class Window>
+void CSFQTSkinWindow<QtBase, Window>::mouseMoveEvent(QMouseEvent* e)
 {
     if ((e->buttons() & Qt::LeftButton) && m_bDrag && !IsMaximisedWindow()) {
         QPoint target = e->globalPosition().toPoint() - m_dragOffset;
@@ -471,8 +493,8 @@ void CSFQTSkinWindow<QtBase>::mouseMoveEvent(QMouseEvent* e)
         m_pHandler->OnDlgMouseHover();
 }
 
-template <class QtBase>
-void CSFQTSkinWindow<QtBase>::ApplyReleaseLimits()
+template <class QtBase, class Window>
+void CSFQTSkinWindow<QtBase, Window>::ApplyReleaseLimits()
 {
     QScreen* screen = CurrentScreen();
     if (!screen)
@@ -503,8 +525,8 @@ void CSFQTSkinWindow<QtBase>::ApplyReleaseLimits()
         this->move(x, y);
 }
 
-template <class QtBase>
-void CSFQTSkinWindow<QtBase>::mouseReleaseEvent(QMouseEvent* e)
+template <class QtBase, class Window>
+void CSFQTSkinWindow<QtBase, Window>::mouseReleaseEvent(QMouseEvent* e)
 {
     if (e->button() != Qt::LeftButton) {
         QtBase::mouseReleaseEvent(e);
@@ -523,20 +545,20 @@ void CSFQTSkinWindow<QtBase>::mouseReleaseEvent(QMouseEvent* e)
     const bool normal = this->windowState() == Qt::WindowNoState;
     switch (n) {
     case 1:
-        EmitClose();
+        emit Self()->sgnClose();
         break;
     case 2:
         if (normal)
-            EmitMaximized();
+            emit Self()->sgnMaximized();
         else if (IsMaximisedWindow())
-            EmitNormal();
+            emit Self()->sgnNormal();
         break;
     case 3:
         if (normal) {
-            EmitMinimized();
+            emit Self()->sgnMinimized();
             this->setWindowState(Qt::WindowMinimized);
         } else if (IsMaximisedWindow()) {
-            EmitNormal();
+            emit Self()->sgnNormal();
         }
         break;
     default:
@@ -544,16 +566,16 @@ void CSFQTSkinWindow<QtBase>::mouseReleaseEvent(QMouseEvent* e)
     }
 }
 
-template <class QtBase>
-void CSFQTSkinWindow<QtBase>::enterEvent(QEnterEvent* e)
+template <class QtBase, class Window>
+void CSFQTSkinWindow<QtBase, Window>::enterEvent(QEnterEvent* e)
 {
     if (m_pHandler)
         m_pHandler->OnDlgMouseHover();
     QtBase::enterEvent(e);
 }
 
-template <class QtBase>
-void CSFQTSkinWindow<QtBase>::leaveEvent(QEvent* e)
+template <class QtBase, class Window>
+void CSFQTSkinWindow<QtBase, Window>::leaveEvent(QEvent* e)
 {
     if (!m_bMainWindow) {
         for (int n = 1; n <= CSFFrameSkin::ButtonCount; ++n) {
@@ -569,8 +591,8 @@ void CSFQTSkinWindow<QtBase>::leaveEvent(QEvent* e)
     QtBase::leaveEvent(e);
 }
 
-template <class QtBase>
-void CSFQTSkinWindow<QtBase>::keyPressEvent(QKeyEvent* e)
+template <class QtBase, class Window>
+void CSFQTSkinWindow<QtBase, Window>::keyPressEvent(QKeyEvent* e)
 {
     // The base class is left out so that Esc does not close a dialog by itself.
     if (!m_pHandler)
@@ -579,8 +601,8 @@ void CSFQTSkinWindow<QtBase>::keyPressEvent(QKeyEvent* e)
     m_pHandler->OnDlgKeyDown(SFMapKeyModifiers(e->modifiers()), key);
 }
 
-template <class QtBase>
-void CSFQTSkinWindow<QtBase>::keyReleaseEvent(QKeyEvent* e)
+template <class QtBase, class Window>
+void CSFQTSkinWindow<QtBase, Window>::keyReleaseEvent(QKeyEvent* e)
 {
     if (!m_bMainWindow) {
         QtBase::keyReleaseEvent(e);
@@ -590,8 +612,8 @@ void CSFQTSkinWindow<QtBase>::keyReleaseEvent(QKeyEvent* e)
         m_pHandler->OnDlgKeyUp(SFMapKeyModifiers(e->modifiers()), SFMapMainWindowKey(e->key()));
 }
 
-template <class QtBase>
-void CSFQTSkinWindow<QtBase>::closeEvent(QCloseEvent* e)
+template <class QtBase, class Window>
+void CSFQTSkinWindow<QtBase, Window>::closeEvent(QCloseEvent* e)
 {
     if (m_bMainWindow)
         qCDebug(lcSf) << "CSFQTMainWindow::closeEvent!";
@@ -601,32 +623,32 @@ void CSFQTSkinWindow<QtBase>::closeEvent(QCloseEvent* e)
         e->accept();
 }
 
-template <class QtBase>
-void CSFQTSkinWindow<QtBase>::showEvent(QShowEvent* e)
+template <class QtBase, class Window>
+void CSFQTSkinWindow<QtBase, Window>::showEvent(QShowEvent* e)
 {
     QtBase::showEvent(e);
     if (m_pHandler)
         m_pHandler->OnDlgShowWindow(1, 0);
 }
 
-template <class QtBase>
-void CSFQTSkinWindow<QtBase>::focusInEvent(QFocusEvent* e)
+template <class QtBase, class Window>
+void CSFQTSkinWindow<QtBase, Window>::focusInEvent(QFocusEvent* e)
 {
     if (m_pHandler)
         m_pHandler->OnDlgNcActivate(e->type() == QEvent::FocusIn);
     QtBase::focusInEvent(e);
 }
 
-template <class QtBase>
-void CSFQTSkinWindow<QtBase>::focusOutEvent(QFocusEvent* e)
+template <class QtBase, class Window>
+void CSFQTSkinWindow<QtBase, Window>::focusOutEvent(QFocusEvent* e)
 {
     if (m_pHandler)
         m_pHandler->OnDlgNcActivate(e->type() == QEvent::FocusIn);
     QtBase::focusOutEvent(e);
 }
 
-template <class QtBase>
-void CSFQTSkinWindow<QtBase>::timerEvent(QTimerEvent* e)
+template <class QtBase, class Window>
+void CSFQTSkinWindow<QtBase, Window>::timerEvent(QTimerEvent* e)
 {
     unsigned int id = 0;
     for (auto it = m_timers.constBegin(); it != m_timers.constEnd(); ++it) {
@@ -640,15 +662,15 @@ void CSFQTSkinWindow<QtBase>::timerEvent(QTimerEvent* e)
     QtBase::timerEvent(e);
 }
 
-template <class QtBase>
-void CSFQTSkinWindow<QtBase>::dragEnterEvent(QDragEnterEvent* e)
+template <class QtBase, class Window>
+void CSFQTSkinWindow<QtBase, Window>::dragEnterEvent(QDragEnterEvent* e)
 {
     if (e->mimeData() && e->mimeData()->hasUrls())
         e->acceptProposedAction();
 }
 
-template <class QtBase>
-void CSFQTSkinWindow<QtBase>::dropEvent(QDropEvent* e)
+template <class QtBase, class Window>
+void CSFQTSkinWindow<QtBase, Window>::dropEvent(QDropEvent* e)
 {
     if (!e->mimeData())
         return;
@@ -662,5 +684,5 @@ void CSFQTSkinWindow<QtBase>::dropEvent(QDropEvent* e)
     m_pHandler->OnDlgFileDrop(wide.c_str());
 }
 
-template class CSFQTSkinWindow<QDialog>;
-template class CSFQTSkinWindow<QMainWindow>;
+template class CSFQTSkinWindow<QDialog, CSFQTDialog>;
+template class CSFQTSkinWindow<QMainWindow, CSFQTMainWindow>;

@@ -1,7 +1,8 @@
 #pragma once
 // What the skinned dialog and the skinned main window share: frame painting,
 // caption buttons, dragging, centring, keys, timers and drops. Instantiated
-// for QDialog and QMainWindow only.
+// for QDialog and QMainWindow only; Window is the realisation itself, whose
+// accept, reject and signals the shared code calls.
 
 #include "sf/SFDialog.h"
 #include "sf/qt/SFFrameSkin.h"
@@ -28,7 +29,7 @@ class QShowEvent;
 class QTimerEvent;
 class QWidget;
 
-template <class QtBase>
+template <class QtBase, class Window>
 class CSFQTSkinWindow : public QtBase, public CSFDialog {
 public:
     CSFQTSkinWindow(ISFDialogEvent* handler, QWidget* parent, bool mainWindow);
@@ -39,12 +40,16 @@ public:
     void ShowWindow(int show) override;
     void MoveWindow(tagRECT* rect) override;
     void MoveWindow(int x, int y, int w, int h) override;
+    void MFCOK() override;
+    void MFCCancel() override;
     void CenterWindow(void** reserved) override;
     void SetSkin(DialogStyle* style) override;
     void Screen2Client(tagPOINT* pt) override;
     void Screen2Client(tagRECT* rect) override;
     void GetDlgClientRect(tagRECT* rect) override;
     void GetDlgWindowRect(tagRECT* rect) override;
+    // Only 16, the close message, does anything.
+    void SendDlgMessage(unsigned int msg, unsigned int wParam, long lParam) override;
     void SetDrawBackGround(int draw) override;
     int DlgIsWindow() override;
     int SetDlgWindowPos(void* insertAfter, int x, int y, int cx, int cy,
@@ -79,10 +84,6 @@ protected:
     virtual bool IsMaximisedWindow() const;
     // The area CenterWindow centres on.
     virtual QRect CenterArea() const;
-    virtual void EmitClose() {}
-    virtual void EmitMaximized() {}
-    virtual void EmitMinimized() {}
-    virtual void EmitNormal() {}
 
     QScreen* CurrentScreen() const;
     // Runs the handler's map for a framework event; false for other events.
@@ -107,6 +108,7 @@ protected:
     void customEvent(QEvent* e) override;
 
 private:
+    Window* Self() { return static_cast<Window*>(this); }
     void PlaceTitle();
     void UpdateHover(const QPoint& pos);
     void RepaintButton(int n);

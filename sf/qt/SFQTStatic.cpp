@@ -23,7 +23,7 @@ constexpr unsigned int kDtSingleLine = 0x20;
 } // namespace
 
 CSFQTStatic::CSFQTStatic(ISFStaticEvent* handler, QWidget* parent)
-    : QLabel(parent), CSFStatic(handler), m_textColor(0, 0, 0), m_bold(0),
+    : CSFQTControl(handler, parent), m_textColor(0, 0, 0), m_bold(0),
       m_textFlags(int(Qt::AlignLeft) | int(Qt::AlignVCenter) | int(Qt::TextSingleLine)), m_fontPixels(12),
       m_bgEnabled(0), m_textOffset(0), m_wordWrap(0), m_wrapAnywhere(0), m_tooltipEnabled(1),
       m_twinkleMs(kDefaultTwinkleMs)
@@ -40,59 +40,29 @@ int CSFQTStatic::Create(const wchar_t* text, unsigned long style, const tagRECT&
                         void* parent, unsigned int id)
 {
     const QString label = SFToQString(text);
-    setParent(SFWidgetFromHandle(parent));
     setText(label);
-    setGeometry(SFRectForCreate(rect));
-    m_nID = id;
+    Place(parent, SFRectForCreate(rect), id, "label", label);
     setFont(PaintFont());
     GrowToText(PaintFont());
-    SFNameControl(this, "label", id, label);
     SFApplyVisibleStyle(this, style);
     return 1;
 }
 
-void CSFQTStatic::SetCursor()
-{
-}
-
-int CSFQTStatic::SetSkin()
-{
-    return 1;
-}
-
-void CSFQTStatic::ShowWindow(int show)
-{
-    setVisible(show != 0);
-}
-
+// Unlike the other controls, a label moves by the exclusive reading of Create.
 void CSFQTStatic::MoveWindow(tagRECT* rect)
 {
     if (rect)
         setGeometry(SFRectForCreate(*rect));
 }
 
-void CSFQTStatic::MoveWindow(int x, int y, int w, int h)
-{
-    setGeometry(SFRectFromXYWH(x, y, w, h));
-}
-
 int CSFQTStatic::GetStaticText(wchar_t* buffer, int size) const
 {
-    const std::wstring value = text().toStdWString();
-    const int length = static_cast<int>(value.size());
-    if (!buffer || size <= 0)
-        return length;
-    const int copied = std::min(length, size - 1);
-    std::copy_n(value.data(), copied, buffer);
-    buffer[copied] = L'\0';
-    return length;
+    return SFCopyText(text(), buffer, size);
 }
 
 void CSFQTStatic::SetStaticText(const wchar_t* text)
 {
-    const QString label = SFToQString(text);
-    setText(label);
-    setAccessibleName(label);
+    SetLabel(text);
     // Measured with the widget's own font, from where the label stands now.
     GrowToText(font());
     update();
@@ -173,12 +143,17 @@ void CSFQTStatic::SetTextOffset(int offset)
 void CSFQTStatic::SetWordWrap(int wrap)
 {
     m_wordWrap = wrap;
-    if (wrap)
-        m_textFlags |= int(Qt::TextWordWrap);
-    else
-        m_textFlags &= ~int(Qt::TextWordWrap);
+    SetTextFlag(Qt::TextWordWrap, wrap != 0);
     setWordWrap(wrap != 0);
     update();
+}
+
+void CSFQTStatic::SetTextFlag(int flag, bool on)
+{
+    if (on)
+        m_textFlags |= flag;
+    else
+        m_textFlags &= ~flag;
 }
 
 int CSFQTStatic::GetWordWrap()
@@ -189,10 +164,7 @@ int CSFQTStatic::GetWordWrap()
 void CSFQTStatic::SetWrapAnywhere(int wrap)
 {
     m_wrapAnywhere = wrap;
-    if (wrap)
-        m_textFlags |= int(Qt::TextWrapAnywhere);
-    else
-        m_textFlags &= ~int(Qt::TextWrapAnywhere);
+    SetTextFlag(Qt::TextWrapAnywhere, wrap != 0);
     update();
 }
 

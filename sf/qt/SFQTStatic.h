@@ -3,6 +3,7 @@
 // the text it is given; its text colour can flash.
 
 #include "sf/SFStatic.h"
+#include "sf/qt/SFQTControl.h"
 
 #include <QColor>
 #include <QLabel>
@@ -10,7 +11,7 @@
 
 class QPropertyAnimation;
 
-class CSFQTStatic : public QLabel, public CSFStatic {
+class CSFQTStatic : public CSFQTControl<QLabel, CSFStatic> {
     Q_OBJECT
     Q_PROPERTY(QColor Color READ TextColor WRITE SetColorProperty)
 public:
@@ -19,11 +20,7 @@ public:
 
     int Create(const wchar_t* text, unsigned long style, const tagRECT& rect, void* parent,
                unsigned int id) override;
-    void SetCursor() override;
-    int SetSkin() override;
-    void ShowWindow(int show) override;
     void MoveWindow(tagRECT* rect) override;
-    void MoveWindow(int x, int y, int w, int h) override;
     int GetStaticText(wchar_t* buffer, int size) const override;
     void SetStaticText(const wchar_t* text) override;
     void SetTextAlignFlag(unsigned int flags) override;
@@ -58,6 +55,7 @@ protected:
 private:
     // The font the text is painted with: bold or normal at m_fontPixels.
     QFont PaintFont() const;
+    void SetTextFlag(int flag, bool on);
     // Widens and heightens from the top-left so that the text fits.
     void GrowToText(const QFont& font);
 

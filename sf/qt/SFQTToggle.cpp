@@ -16,19 +16,11 @@ template <class QtButton, class Facade>
 int CSFQTToggle<QtButton, Facade>::Create(const wchar_t* text, unsigned long style,
                                           const tagRECT& rect, void* parent, unsigned int id)
 {
-    this->setGeometry(SFRectForCreate(rect));
     const QString label = SFToQString(text);
     this->setText(label);
-    this->m_nID = id;
-    this->setParent(SFWidgetFromHandle(parent));
-    SFNameControl(this, m_kind, id, label);
+    this->Place(parent, SFRectForCreate(rect), id, m_kind, label);
     SFApplyVisibleStyle(this, style);
     return 1;
-}
-
-template <class QtButton, class Facade>
-void CSFQTToggle<QtButton, Facade>::SetCursor()
-{
 }
 
 template <class QtButton, class Facade>
@@ -38,25 +30,6 @@ int CSFQTToggle<QtButton, Facade>::SetSkin(ImageRadioBox* style)
         return 0;
     this->update();
     return 1;
-}
-
-template <class QtButton, class Facade>
-void CSFQTToggle<QtButton, Facade>::ShowWindow(int show)
-{
-    this->setVisible(show != 0);
-}
-
-template <class QtButton, class Facade>
-void CSFQTToggle<QtButton, Facade>::MoveWindow(tagRECT* rect)
-{
-    if (rect)
-        this->setGeometry(SFRectInclusive(*rect));
-}
-
-template <class QtButton, class Facade>
-void CSFQTToggle<QtButton, Facade>::MoveWindow(int x, int y, int w, int h)
-{
-    this->setGeometry(SFRectFromXYWH(x, y, w, h));
 }
 
 template <class QtButton, class Facade>
@@ -88,9 +61,7 @@ int CSFQTToggle<QtButton, Facade>::GetWindowTextW(wchar_t* buffer, int size) con
 template <class QtButton, class Facade>
 void CSFQTToggle<QtButton, Facade>::SetWindowTextW(const wchar_t* text)
 {
-    const QString label = SFToQString(text);
-    this->setText(label);
-    this->setAccessibleName(label);
+    this->SetLabel(text);
 }
 
 template <class QtButton, class Facade>

@@ -4,6 +4,7 @@
 // reports it. Qt's own check follows m_checked, never the other way round.
 
 #include "sf/ImageRadioBox.h"
+#include "sf/qt/SFQTControl.h"
 #include "sf/qt/SFToggleSkin.h"
 #include "platform/WinTypes.h"
 
@@ -16,15 +17,11 @@ class QWidget;
 
 // QtButton is the Qt button shown, Facade the abstract control realised.
 template <class QtButton, class Facade>
-class CSFQTToggle : public QtButton, public Facade {
+class CSFQTToggle : public CSFQTControl<QtButton, Facade> {
 public:
     int Create(const wchar_t* text, unsigned long style, const tagRECT& rect, void* parent,
                unsigned int id) override;
-    void SetCursor() override;
     int SetSkin(ImageRadioBox* style) override;
-    void ShowWindow(int show) override;
-    void MoveWindow(tagRECT* rect) override;
-    void MoveWindow(int x, int y, int w, int h) override;
     void SetCheck(int check) override;
     int GetCheck() const override;
     int GetWindowTextW(wchar_t* buffer, int size) const override;
@@ -39,7 +36,7 @@ protected:
     // kind names the control at Create: "<kind>_<id>".
     template <class Handler>
     CSFQTToggle(Handler* handler, QWidget* parent, const char* kind)
-        : QtButton(parent), Facade(handler), m_state(CSFToggleSkin::StateNormal), m_checked(0),
+        : CSFQTControl<QtButton, Facade>(handler, parent), m_state(CSFToggleSkin::StateNormal), m_checked(0),
           m_kind(kind)
     {
         this->setCheckable(true);

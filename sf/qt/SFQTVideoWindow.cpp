@@ -25,7 +25,7 @@ int SmallNumber(const std::wstring& text, int max)
 } // namespace
 
 CSFQTVideoWindow::CSFQTVideoWindow(ISFVideoWindowEvent* handler, QWidget* parent)
-    : QWidget(parent), CSFVideoWindow(handler), m_nGridRows(1), m_nGridCols(1),
+    : CSFQTControl(handler, parent), m_nGridRows(1), m_nGridCols(1),
       m_nProportionX(0), m_nProportionY(0), m_nCurrentIndex(0), m_nZoomIndex(-1),
       m_nNextSubWinID(0), m_nDragMode(0), m_nActiveCheckMode(0), m_nCursorNormal(0),
       m_nCursorDragging(0), m_bFrameZoom(false), m_bSubWinCtrlsVisible(true),
@@ -47,10 +47,7 @@ CSFQTVideoWindow::~CSFQTVideoWindow()
 int CSFQTVideoWindow::Create(const wchar_t* text, const tagRECT& rect, void* parent,
                              unsigned int id)
 {
-    setParent(SFWidgetFromHandle(parent));
-    setGeometry(SFRectForCreate(rect));
-    m_nID = id;
-    SFNameControl(this, "videowindow", id, SFToQString(text));
+    Place(parent, SFRectForCreate(rect), id, "videowindow", SFToQString(text));
     const std::string grid = GetGridLayout(m_nGridRows, m_nGridCols);
     SetLayout(grid.empty() ? GetDefaultLayout(DEFAULT_LAYOUT_1) : grid.c_str());
     // A window of its own stays hidden until ShowWindow.
@@ -82,22 +79,6 @@ int CSFQTVideoWindow::SetSkin(ImageVideoWindowStyle* style)
     RefreshSubWindows();
     update();
     return 1;
-}
-
-void CSFQTVideoWindow::ShowWindow(int show)
-{
-    setVisible(show != 0);
-}
-
-void CSFQTVideoWindow::MoveWindow(tagRECT* rect)
-{
-    if (rect)
-        setGeometry(SFRectInclusive(*rect));
-}
-
-void CSFQTVideoWindow::MoveWindow(int x, int y, int w, int h)
-{
-    setGeometry(SFRectFromXYWH(x, y, w, h));
 }
 
 VIDEOWINDOWMODE CSFQTVideoWindow::GetVideoWindowMode()

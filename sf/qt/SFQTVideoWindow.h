@@ -5,6 +5,7 @@
 #include "sf/ImageVideoWindowStyle.h"
 #include "sf/qt/QTVideoWindowLayout.h"
 #include "sf/SFVideoWindow.h"
+#include "sf/qt/SFQTControl.h"
 
 #include <QColor>
 #include <QPixmap>
@@ -14,7 +15,8 @@
 
 class CSFQTVideoWindowSubWnd;
 
-class CSFQTVideoWindow : public QWidget, public CSFVideoWindow, public ISFRadioBoxEvent {
+class CSFQTVideoWindow : public CSFQTControl<QWidget, CSFVideoWindow>,
+                         public ISFRadioBoxEvent {
     Q_OBJECT
 public:
     // The style record read into what painting needs.
@@ -37,9 +39,6 @@ public:
 
     int Create(const wchar_t* text, const tagRECT& rect, void* parent, unsigned int id) override;
     int SetSkin(ImageVideoWindowStyle* style) override;
-    void ShowWindow(int show) override;
-    void MoveWindow(tagRECT* rect) override;
-    void MoveWindow(int x, int y, int w, int h) override;
     VIDEOWINDOWMODE GetVideoWindowMode() override;
     void SetRows(int rows) override;
     void SetColumns(int columns) override;

@@ -19,12 +19,7 @@ namespace {
 ImageButtonStyle ButtonStyle(const std::wstring& normal, const std::wstring& hover,
                              const std::wstring& down)
 {
-    ImageButtonStyle style;
-    style.strNormal = normal;
-    style.strHover = hover;
-    style.strPressed = down;
-    style.strDisabled = normal;
-    return style;
+    return ImageButtonStyle{ normal, hover, down, normal, {}, {}, {}, {} };
 }
 
 } // namespace

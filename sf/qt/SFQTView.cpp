@@ -13,7 +13,7 @@
 #include <algorithm>
 
 CSFQTView::CSFQTView(ISFViewEvent* handler, QWidget* parent)
-    : QWidget(parent), CSFView(handler), m_bgColor(92, 101, 118), m_frameEnabled(0),
+    : CSFQTControl(handler, parent), m_bgColor(92, 101, 118), m_frameEnabled(0),
       m_frameColor(128, 128, 128), m_cornerRadius(0)
 {
     setMouseTracking(true);
@@ -35,21 +35,14 @@ CSFQTView::~CSFQTView()
 int CSFQTView::Create(const wchar_t*, const wchar_t* title, unsigned long style,
                       const tagRECT& rect, void* parent, unsigned int id)
 {
-    setParent(SFWidgetFromHandle(parent));
     const QString text = SFToQString(title);
     setWindowTitle(text);
-    setGeometry(SFRectInclusive(rect));
-    m_nID = id;
-    SFNameControl(this, "view", id, text);
+    // A view takes its rectangle as it stands.
+    Place(parent, SFRectInclusive(rect), id, "view", text);
     SFApplyVisibleStyle(this, style);
     if (m_pHandler)
         m_pHandler->OnCreate();
     return 1;
-}
-
-void CSFQTView::ShowWindow(int show)
-{
-    setVisible(show != 0);
 }
 
 void CSFQTView::SetBackground(const wchar_t* image)
@@ -57,18 +50,6 @@ void CSFQTView::SetBackground(const wchar_t* image)
     m_bgImage = QPixmap();
     if (image && *image)
         m_bgImage.load(SFSkinFilePath(image));
-}
-
-void CSFQTView::MoveWindow(tagRECT* rect)
-{
-    if (rect)
-        MoveWindow(rect->left, rect->top, rect->right - rect->left + 1,
-                   rect->bottom - rect->top + 1);
-}
-
-void CSFQTView::MoveWindow(int x, int y, int w, int h)
-{
-    setGeometry(SFRectFromXYWH(x, y, w, h));
 }
 
 void CSFQTView::GetViewClientRect(tagRECT* rect)

@@ -3,12 +3,13 @@
 // handler's message map for the controls placed on it.
 
 #include "sf/SFView.h"
+#include "sf/qt/SFQTControl.h"
 
 #include <QColor>
 #include <QPixmap>
 #include <QWidget>
 
-class CSFQTView : public QWidget, public CSFView {
+class CSFQTView : public CSFQTControl<QWidget, CSFView> {
     Q_OBJECT
 public:
     explicit CSFQTView(ISFViewEvent* handler, QWidget* parent = nullptr);
@@ -16,10 +17,7 @@ public:
 
     int Create(const wchar_t* className, const wchar_t* title, unsigned long style,
                const tagRECT& rect, void* parent, unsigned int id) override;
-    void ShowWindow(int show) override;
     void SetBackground(const wchar_t* image) override;
-    void MoveWindow(tagRECT* rect) override;
-    void MoveWindow(int x, int y, int w, int h) override;
     void GetViewClientRect(tagRECT* rect) override;
     void GetViewWindowRect(tagRECT* rect) override;
     void Screen2Client(tagPOINT* pt) override;

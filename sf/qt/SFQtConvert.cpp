@@ -5,6 +5,7 @@
 #include "sf/SFWrapMath.h"
 
 #include <QWidget>
+#include <algorithm>
 
 using sf_detail::WrapAdd;
 using sf_detail::WrapSub;
@@ -57,6 +58,18 @@ tagRECT SFToTagRectExclusive(const QRect& rect)
 tagRECT SFToTagRectInclusive(const QRect& rect)
 {
     return tagRECT{ rect.left(), rect.top(), rect.right(), rect.bottom() };
+}
+
+int SFCopyText(const QString& text, wchar_t* buffer, int size)
+{
+    const std::wstring value = text.toStdWString();
+    const int length = static_cast<int>(value.size());
+    if (!buffer || size <= 0)
+        return length;
+    const int copied = std::min(length, size - 1);
+    std::copy_n(value.data(), copied, buffer);
+    buffer[copied] = L'\0';
+    return length;
 }
 
 void SFApplyVisibleStyle(QWidget* widget, unsigned long style)

@@ -26,6 +26,10 @@ QRect SFRectFromXYWH(int x, int y, int w, int h);
 tagRECT SFToTagRectExclusive(const QRect& rect);
 tagRECT SFToTagRectInclusive(const QRect& rect);
 
+// Copies at most size - 1 characters and a terminator; returns the whole
+// text's length, which is what callers expect.
+int SFCopyText(const QString& text, wchar_t* buffer, int size);
+
 // Shown or hidden by the visible bit of a window style.
 void SFApplyVisibleStyle(QWidget* widget, unsigned long style);
 

@@ -3,11 +3,13 @@
 #include "sf/qt/SFApplication.h"
 #include "sf/qt/SFQtConvert.h"
 
+#include <QFile>
 #include <QStringList>
 #include <algorithm>
 #include <climits>
 #include <cstdint>
 #include <cwchar>
+#include <sys/stat.h>
 
 namespace {
 
@@ -75,7 +77,29 @@ QSize SFParseSize(const std::wstring& text)
 
 QString SFSkinFilePath(const std::wstring& file)
 {
-    return g_strSkinPath + SFToQString(file);
+    const QString path = g_strSkinPath + SFToQString(file);
+    // Reading a FIFO blocks, a device never ends: an image that is there but
+    // no regular file counts as missing, and an empty path loads nothing.
+    struct stat st;
+    if (::stat(QFile::encodeName(path).constData(), &st) == 0 && !S_ISREG(st.st_mode))
+        return QString();
+    return path;
+}
+
+QString SFCssQuoted(const QString& text)
+{
+    QString quoted;
+    quoted.reserve(text.size() + 2);
+    quoted += QLatin1Char('"');
+    for (const QChar c : text) {
+        // Qt's style-sheet scanner drops the backslash before any character.
+        if (c == QLatin1Char('"') || c == QLatin1Char('\\') || c == QLatin1Char('\n')
+            || c == QLatin1Char('\r') || c == QLatin1Char('\f'))
+            quoted += QLatin1Char('\\');
+        quoted += c;
+    }
+    quoted += QLatin1Char('"');
+    return quoted;
 }
 
 std::unique_ptr<QPixmap> SFLoadSkinPixmap(const std::wstring& file)

@@ -21,7 +21,12 @@ QRect SFParseRect(const std::wstring& text);
 QSize SFParseSize(const wchar_t* text);
 QSize SFParseSize(const std::wstring& text);
 
-// The skin path with the file name appended, nothing between them.
+// The skin path with the file name appended, nothing between them; empty
+// when something other than a regular file lies there.
 QString SFSkinFilePath(const std::wstring& file);
+// The text as a style-sheet string, quotes included: install paths may hold
+// quotes, backslashes, '$', '%' or any character, and unquoted they break the
+// widget's whole sheet.
+QString SFCssQuoted(const QString& text);
 // A PNG of the skin directory, or null when the file does not load.
 std::unique_ptr<QPixmap> SFLoadSkinPixmap(const std::wstring& file);

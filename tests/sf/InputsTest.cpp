@@ -95,17 +95,29 @@ public:
 
 const tagRECT kEditRect{ 10, 10, 110, 35 };
 
-struct EditFixture : testing::Test {
+// One control from its factory on a host page, released after the test.
+template <class QtControl>
+struct ControlFixture : testing::Test {
     CInputsHandler handler;
     CInputsHost host;
-    CSFQTEditCtrl* edit = nullptr;
+    QtControl* control = nullptr;
+
+    template <class Facade>
+    void Take(Facade* made)
+    {
+        control = static_cast<QtControl*>(made);
+    }
+    void TearDown() override { SFDestroyControl(control); }
+};
+
+struct EditFixture : ControlFixture<CSFQTEditCtrl> {
+    CSFQTEditCtrl*& edit = control;
 
     void SetUp() override
     {
-        edit = static_cast<CSFQTEditCtrl*>(SFCreateEditCtrl(&handler));
+        Take(SFCreateEditCtrl(&handler));
         edit->Create(SF_WS_VISIBLE, kEditRect, host.Handle(), 0x811, false);
     }
-    void TearDown() override { SFDestroyControl(static_cast<CSFEditCtrl*>(edit)); }
 
     void TypeIntoEdit(const QString& text)
     {
@@ -415,21 +427,18 @@ TEST(StaticTwinkle, FlashesTwiceAndEndsBlack)
 // --- the number spinner: it reports changes made from code as well as by
 // the user and wraps when asked ---
 
-struct SpinnerFixture : testing::Test {
-    CInputsHandler handler;
-    CInputsHost host;
-    CSFQTNumSpiner* spin = nullptr;
+struct SpinnerFixture : ControlFixture<CSFQTNumSpiner> {
+    CSFQTNumSpiner*& spin = control;
 
     void SetUp() override
     {
-        spin = static_cast<CSFQTNumSpiner*>(SFCreateNumSpiner(&handler));
+        Take(SFCreateNumSpiner(&handler));
         spin->Create(L"ignored", tagRECT{ 10, 10, 132, 42 }, host.Handle(), 0x7EB);
         spin->SetRange(1, 3650);
         spin->SetCurrentNum(1);
         spin->show();
         handler.events.clear();
     }
-    void TearDown() override { SFDestroyControl(static_cast<CSFNumSpiner*>(spin)); }
 };
 
 TEST_F(SpinnerFixture, SetCurrentNumFiresWhenTheValueChanges)

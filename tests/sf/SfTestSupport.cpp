@@ -57,28 +57,12 @@ CTestSkin::~CTestSkin()
 
 void CTestSkin::FillDialogStyle(DialogStyle& s)
 {
-    s.strFrameImage = L"Frame.png";
+    // The dialogs' own skin, with pieces that differ from their neighbours so
+    // that painting one in the place of another shows.
+    s = SFSmallDialogStyle();
     s.strBackgroundImage = L"";
-    s.strBackgroundMode = L"tile";
     s.strBackgroundColor = L"102030";
-    s.strTopLeft = L"0,0,10,27";
     s.strTop = L"30,0,7,27";
-    s.strTopRight = L"138,0,10,27";
-    s.strLeftTop = L"0,27,1,80";
-    s.strLeft = L"0,110,1,20";
     s.strLeftBottom = L"2,110,1,20";
-    s.strBottomLeft = L"0,130,10,10";
-    s.strBottom = L"10,130,1,10";
-    s.strBottomRight = L"138,130,10,10";
     s.strRightBottom = L"145,110,1,20";
-    s.strRight = L"147,110,1,20";
-    s.strRightTop = L"147,27,1,80";
-    s.strTitleFont = L"Tahoma";
-    s.strTitleFontSize = L"11";
-    s.strTitleColor = L"333333";
-    s.strTitleAlign = L"left";
-    s.strTitleRect = L"10,0,1100,27";
-    s.nResizable = 1;
-    s.strClientRect = L"0,0,-1,-1";
-    s.strRoundCorner = L"0,0";
 }

@@ -6,79 +6,62 @@
 #include <QColor>
 #include <QRect>
 #include <QSize>
+#include <algorithm>
 #include <gtest/gtest.h>
+#include <initializer_list>
+#include <iterator>
 #include <string>
+#include <utility>
 
 namespace {
 
-struct RectCase {
-    const wchar_t* text;
-    QRect expected;
-};
-
-class ParseRect : public testing::TestWithParam<RectCase> {
-};
-
-TEST_P(ParseRect, GivesInclusiveRectangle)
+// Every text of the table, read by parse, gives its expected value.
+template <class T, class Parse>
+void ExpectReads(Parse parse, std::initializer_list<std::pair<const wchar_t*, T>> cases)
 {
-    EXPECT_EQ(SFParseRect(GetParam().text), GetParam().expected);
+    for (const auto& [text, expected] : cases)
+        EXPECT_EQ(parse(text), expected) << '"' << QString::fromWCharArray(text).toStdString() << '"';
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Strings, ParseRect,
-    testing::Values(RectCase{ L"0,0,10,27", QRect(QPoint(0, 0), QPoint(9, 26)) },
-                    RectCase{ L"", QRect(QPoint(0, 0), QPoint(-1, -1)) },
-                    RectCase{ L"-30,5,20,20", QRect(QPoint(-30, 5), QPoint(-11, 24)) },
-                    // Missing numbers stay 0: a rectangle with no width.
-                    RectCase{ L"5,6", QRect(QPoint(5, 6), QPoint(4, 5)) },
-                    RectCase{ L"0,0,-1,-1", QRect(QPoint(0, 0), QPoint(-2, -2)) }));
-
-struct ColorCase {
-    const wchar_t* text;
-    QColor expected;
-};
-
-class ParseColor : public testing::TestWithParam<ColorCase> {
-};
-
-TEST_P(ParseColor, ReadsHexPairs)
+TEST(SkinStrings, RectanglesAreInclusive)
 {
-    const QColor c = SFParseColor(GetParam().text);
-    EXPECT_EQ(c.rgba(), GetParam().expected.rgba()) << c.name(QColor::HexArgb).toStdString();
+    ExpectReads<QRect>(static_cast<QRect (*)(const wchar_t*)>(SFParseRect), {
+        { L"0,0,10,27", QRect(QPoint(0, 0), QPoint(9, 26)) },
+        { L"", QRect(QPoint(0, 0), QPoint(-1, -1)) },
+        { L"-30,5,20,20", QRect(QPoint(-30, 5), QPoint(-11, 24)) },
+        // Missing numbers stay 0: a rectangle with no width.
+        { L"5,6", QRect(QPoint(5, 6), QPoint(4, 5)) },
+        { L"0,0,-1,-1", QRect(QPoint(0, 0), QPoint(-2, -2)) },
+    });
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Strings, ParseColor,
-    testing::Values(ColorCase{ L"333333", QColor(51, 51, 51, 255) },
-                    ColorCase{ L"FF8000", QColor(255, 128, 0, 255) },
-                    ColorCase{ L"12345", QColor(0, 0, 0, 255) },
-                    // A pair that is no number reads as 0, a half number as its digit.
-                    ColorCase{ L"zz1g10", QColor(0, 1, 16, 255) }));
+TEST(SkinStrings, ColoursAreHexPairs)
+{
+    const auto rgba = [](const wchar_t* text) { return SFParseColor(text).rgba(); };
+    ExpectReads<QRgb>(rgba, {
+        { L"333333", qRgba(51, 51, 51, 255) },
+        { L"FF8000", qRgba(255, 128, 0, 255) },
+        { L"12345", qRgba(0, 0, 0, 255) },
+        // A pair that is no number reads as 0, a half number as its digit.
+        { L"zz1g10", qRgba(0, 1, 16, 255) },
+    });
+}
+
+TEST(SkinStrings, SizesNeedExactlyTwoParts)
+{
+    ExpectReads<QSize>(static_cast<QSize (*)(const wchar_t*)>(SFParseSize), {
+        { L"1100,750", QSize(1100, 750) },
+        { L"1100", QSize(0, 0) },
+        { L"1,2,3", QSize(0, 0) },
+        { L"  4,5  ", QSize(4, 5) },
+    });
+}
 
 TEST(ColorFromRef, RedInTheLowByteAndAlwaysOpaque)
 {
     EXPECT_EQ(SFColorFromRef(0x00FF8040ul).rgba(), QColor(0x40, 0x80, 0xFF, 255).rgba());
     EXPECT_EQ(SFColorFromRef(0xAA000000ul).rgba(), QColor(0, 0, 0, 255).rgba());
 }
-
-struct SizeCase {
-    const wchar_t* text;
-    QSize expected;
-};
-
-class ParseSize : public testing::TestWithParam<SizeCase> {
-};
-
-TEST_P(ParseSize, NeedsExactlyTwoParts)
-{
-    EXPECT_EQ(SFParseSize(GetParam().text), GetParam().expected);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Strings, ParseSize,
-    testing::Values(SizeCase{ L"1100,750", QSize(1100, 750) }, SizeCase{ L"1100", QSize(0, 0) },
-                    SizeCase{ L"1,2,3", QSize(0, 0) }, SizeCase{ L"  4,5  ", QSize(4, 5) }));
-
 
 TEST(RectCrossings, CreateIsExclusiveMoveIsInclusive)
 {
@@ -96,6 +79,21 @@ TEST(TextCrossing, WideTextKeepsEveryCharacter)
     const std::wstring text = L"Gr\u00f6\u00dfe \u65e5\u672c \U0001F600";
     EXPECT_EQ(SFToQString(text.c_str()), QString::fromStdWString(text));
     EXPECT_TRUE(SFToQString(static_cast<const wchar_t*>(nullptr)).isEmpty());
+}
+
+TEST(TextCrossing, CopyEndsWithinTheBufferAndReportsTheWholeLength)
+{
+    const struct {
+        int size;
+        const wchar_t* copied;
+    } cases[] = { { 10, L"Add" }, { 4, L"Add" }, { 3, L"Ad" }, { 1, L"" } };
+    for (const auto& c : cases) {
+        wchar_t buffer[10];
+        std::fill(std::begin(buffer), std::end(buffer), L'#');
+        EXPECT_EQ(SFCopyText(QStringLiteral("Add"), buffer, c.size), 3) << c.size;
+        EXPECT_EQ(std::wstring(buffer), c.copied) << c.size;
+    }
+    EXPECT_EQ(SFCopyText(QStringLiteral("Add"), nullptr, 5), 3);
 }
 
 } // namespace

@@ -9,6 +9,21 @@
 
 namespace {
 
+// A face's colours: the top and bottom of its shading, and its edge.
+struct FaceColours {
+    QColor top;
+    QColor bottom;
+    QColor edge;
+};
+
+// A rounded face shaded from top to bottom, with its edge.
+void shadedFace(QPainter& p, const QRectF& rect, qreal radius, const FaceColours& c)
+{
+    QLinearGradient g(0, rect.top(), 0, rect.bottom());
+    g.setColorAt(0.0, c.top);
+    g.setColorAt(1.0, c.bottom);
+    SkinShapes::panel(p, rect, radius, g, c.edge);
+}
 
 void addStates(std::vector<SkinEntry>& out, const QSize& size, const QString (&names)[4],
                const std::function<void(QPainter&, const QSize&, SkinState)>& draw)
@@ -29,18 +44,26 @@ void ButtonSkins::addTo(std::vector<SkinEntry>& out)
     // Toolbar and dialog title buttons. The close images also serve the
     // dialogs, at 24 by 24 and 17 by 16, on a light title band: the chip keeps
     // them legible on both grounds.
-    const QString about[4] = {QStringLiteral("about-normal.png"), QStringLiteral("about-hover.png"),
-                              QStringLiteral("about-pressed.png"), QStringLiteral("about-disabled.png")};
-    addStates(out, QSize(24, 24), about,
-              [](QPainter& p, const QSize& s, SkinState st) { windowChip(p, s, Chip::About, st); });
-    const QString min[4] = {QStringLiteral("min-normal.png"), QStringLiteral("min-hover.png"),
-                            QStringLiteral("min-pressed.png"), QStringLiteral("min-disabled.png")};
-    addStates(out, QSize(27, 24), min,
-              [](QPainter& p, const QSize& s, SkinState st) { windowChip(p, s, Chip::Minimise, st); });
-    const QString close[4] = {QStringLiteral("close-normal.png"), QStringLiteral("close-hover.png"),
-                              QStringLiteral("close-pressed.png"), QStringLiteral("close-disabled.png")};
-    addStates(out, QSize(27, 24), close,
-              [](QPainter& p, const QSize& s, SkinState st) { windowChip(p, s, Chip::Close, st); });
+    struct ChipFiles {
+        const char* name;
+        QSize size;
+        Chip chip;
+    };
+    const ChipFiles chips[] = {
+        { "about", QSize(24, 24), Chip::About },
+        { "min", QSize(27, 24), Chip::Minimise },
+        { "close", QSize(27, 24), Chip::Close },
+    };
+    for (const ChipFiles& files : chips) {
+        const QString name = QString::fromLatin1(files.name);
+        const QString names[4] = { name + QStringLiteral("-normal.png"),
+                                   name + QStringLiteral("-hover.png"),
+                                   name + QStringLiteral("-pressed.png"),
+                                   name + QStringLiteral("-disabled.png") };
+        const Chip chip = files.chip;
+        addStates(out, files.size, names,
+                  [chip](QPainter& p, const QSize& s, SkinState st) { windowChip(p, s, chip, st); });
+    }
 
     // Channel page: a label is laid over these from x 26 (add) and x 25 (clear).
     const QString add[4] = {QStringLiteral("add_nor.png"), QStringLiteral("add_hove.png"),
@@ -115,32 +138,18 @@ void ButtonSkins::lightFace(QPainter& p, const QRectF& rect, qreal radius, SkinS
 {
     // Near flat: hover warms the face to the pale amber of the table's
     // highlight, pressing deepens it a step.
-    QColor top, bottom, edge;
-    switch (state) {
-    case SkinState::Normal:
-        top = SkinPalette::card();
-        bottom = SkinShapes::mix(SkinPalette::card(), SkinPalette::fieldFill(), 0.7);
-        edge = SkinPalette::fieldEdge();
-        break;
-    case SkinState::Hover:
-        top = SkinPalette::accentTint();
-        bottom = SkinShapes::mix(SkinPalette::accentTint(), SkinPalette::accentTintStrong(), 0.6);
-        edge = SkinPalette::accent();
-        break;
-    case SkinState::Pressed:
-        top = SkinPalette::accentTintStrong();
-        bottom = SkinShapes::mix(SkinPalette::accentTintStrong(), SkinPalette::accent(), 0.18);
-        edge = SkinPalette::accentDark();
-        break;
-    case SkinState::Disabled:
-        top = bottom = SkinPalette::disabledFill();
-        edge = SkinPalette::disabledEdge();
-        break;
-    }
-    QLinearGradient g(0, rect.top(), 0, rect.bottom());
-    g.setColorAt(0.0, top);
-    g.setColorAt(1.0, bottom);
-    SkinShapes::panel(p, rect, radius, g, edge);
+    const FaceColours faces[] = {
+        { SkinPalette::card(), SkinShapes::mix(SkinPalette::card(), SkinPalette::fieldFill(), 0.7),
+          SkinPalette::fieldEdge() },
+        { SkinPalette::accentTint(),
+          SkinShapes::mix(SkinPalette::accentTint(), SkinPalette::accentTintStrong(), 0.6),
+          SkinPalette::accent() },
+        { SkinPalette::accentTintStrong(),
+          SkinShapes::mix(SkinPalette::accentTintStrong(), SkinPalette::accent(), 0.18),
+          SkinPalette::accentDark() },
+        { SkinPalette::disabledFill(), SkinPalette::disabledFill(), SkinPalette::disabledEdge() },
+    };
+    shadedFace(p, rect, radius, faces[static_cast<int>(state)]);
 }
 
 void ButtonSkins::addButton(QPainter& p, const QSize& size, SkinState state)
@@ -190,34 +199,19 @@ void ButtonSkins::calculateButton(QPainter& p, const QSize& size, SkinState stat
 {
     p.setRenderHint(QPainter::Antialiasing);
     const QRectF rect(0, 0, size.width(), size.height());
-    QColor top, bottom, edge;
-    QColor glyph = SkinPalette::onAccent();
-    switch (state) {
-    case SkinState::Normal:
-        top = SkinShapes::mix(SkinPalette::accent(), SkinPalette::accentLight(), 0.5);
-        bottom = SkinPalette::accent();
-        edge = SkinPalette::accentDark();
-        break;
-    case SkinState::Hover:
-        top = SkinShapes::mix(SkinPalette::accentLight(), SkinPalette::card(), 0.2);
-        bottom = SkinPalette::accentLight();
-        edge = SkinPalette::accent();
-        break;
-    case SkinState::Pressed:
-        top = SkinPalette::accentDark();
-        bottom = SkinShapes::mix(SkinPalette::accentDark(), SkinPalette::accent(), 0.4);
-        edge = SkinPalette::accentStroke();
-        break;
-    case SkinState::Disabled:
-        top = bottom = SkinPalette::disabledFill();
-        edge = SkinPalette::disabledEdge();
-        glyph = SkinPalette::disabledGlyph();
-        break;
-    }
-    QLinearGradient g(0, 0, 0, rect.height());
-    g.setColorAt(0.0, top);
-    g.setColorAt(1.0, bottom);
-    SkinShapes::panel(p, rect, 6, g, edge);
+    const FaceColours faces[] = {
+        { SkinShapes::mix(SkinPalette::accent(), SkinPalette::accentLight(), 0.5),
+          SkinPalette::accent(), SkinPalette::accentDark() },
+        { SkinShapes::mix(SkinPalette::accentLight(), SkinPalette::card(), 0.2),
+          SkinPalette::accentLight(), SkinPalette::accent() },
+        { SkinPalette::accentDark(),
+          SkinShapes::mix(SkinPalette::accentDark(), SkinPalette::accent(), 0.4),
+          SkinPalette::accentStroke() },
+        { SkinPalette::disabledFill(), SkinPalette::disabledFill(), SkinPalette::disabledEdge() },
+    };
+    shadedFace(p, rect, 6, faces[static_cast<int>(state)]);
+    const QColor glyph =
+        state == SkinState::Disabled ? SkinPalette::disabledGlyph() : SkinPalette::onAccent();
     const qreal dy = state == SkinState::Pressed ? 1 : 0;
     Glyphs::calculator(p, QRectF(18, 11 + dy, 20, 26), glyph, 2.0);
 }

@@ -5,6 +5,7 @@
 #include <QtMath>
 #include <QPainterPath>
 #include <QPen>
+#include <initializer_list>
 
 namespace {
 
@@ -13,30 +14,55 @@ QPen linePen(const QColor& colour, qreal stroke)
     return QPen(colour, stroke, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
 }
 
+// Saves the painter and sets a round line pen; restores it at the end of the scope.
+class LineScope {
+public:
+    LineScope(QPainter& p, const QColor& colour, qreal stroke) : m_p(p)
+    {
+        m_p.save();
+        m_p.setPen(linePen(colour, stroke));
+    }
+    ~LineScope() { m_p.restore(); }
+    LineScope(const LineScope&) = delete;
+    LineScope& operator=(const LineScope&) = delete;
+
+private:
+    QPainter& m_p;
+};
+
 // Point at fractions of the box.
 QPointF at(const QRectF& b, qreal fx, qreal fy)
 {
     return QPointF(b.left() + b.width() * fx, b.top() + b.height() * fy);
 }
 
+// Draws the open path through the points at the given fractions of the box.
+void drawThrough(QPainter& p, const QRectF& b, std::initializer_list<QPointF> fractions)
+{
+    QPainterPath path;
+    for (const QPointF& f : fractions) {
+        if (path.elementCount() == 0)
+            path.moveTo(at(b, f.x(), f.y()));
+        else
+            path.lineTo(at(b, f.x(), f.y()));
+    }
+    p.drawPath(path);
+}
+
 } // namespace
 
 void Glyphs::close(QPainter& p, const QRectF& box, const QColor& colour, qreal stroke)
 {
-    p.save();
-    p.setPen(linePen(colour, stroke));
+    const LineScope scope(p, colour, stroke);
     p.drawLine(box.topLeft(), box.bottomRight());
     p.drawLine(box.topRight(), box.bottomLeft());
-    p.restore();
 }
 
 void Glyphs::minimise(QPainter& p, const QRectF& box, const QColor& colour, qreal stroke)
 {
-    p.save();
-    p.setPen(linePen(colour, stroke));
+    const LineScope scope(p, colour, stroke);
     const qreal y = box.center().y();
     p.drawLine(QPointF(box.left(), y), QPointF(box.right(), y));
-    p.restore();
 }
 
 void Glyphs::info(QPainter& p, const QRectF& box, const QColor& colour, qreal stroke)
@@ -62,45 +88,30 @@ void Glyphs::info(QPainter& p, const QRectF& box, const QColor& colour, qreal st
 
 void Glyphs::plus(QPainter& p, const QRectF& box, const QColor& colour, qreal stroke)
 {
-    p.save();
-    p.setPen(linePen(colour, stroke));
+    const LineScope scope(p, colour, stroke);
     const QPointF c = box.center();
     p.drawLine(QPointF(box.left(), c.y()), QPointF(box.right(), c.y()));
     p.drawLine(QPointF(c.x(), box.top()), QPointF(c.x(), box.bottom()));
-    p.restore();
 }
 
 void Glyphs::trash(QPainter& p, const QRectF& b, const QColor& colour, qreal stroke)
 {
-    p.save();
-    p.setPen(linePen(colour, stroke));
+    const LineScope scope(p, colour, stroke);
     p.setBrush(Qt::NoBrush);
     // Lid and handle.
     p.drawLine(at(b, 0.0, 0.2), at(b, 1.0, 0.2));
-    QPainterPath handle;
-    handle.moveTo(at(b, 0.34, 0.2));
-    handle.lineTo(at(b, 0.38, 0.02));
-    handle.lineTo(at(b, 0.62, 0.02));
-    handle.lineTo(at(b, 0.66, 0.2));
-    p.drawPath(handle);
+    drawThrough(p, b, { { 0.34, 0.2 }, { 0.38, 0.02 }, { 0.62, 0.02 }, { 0.66, 0.2 } });
     // Body.
-    QPainterPath body;
-    body.moveTo(at(b, 0.1, 0.32));
-    body.lineTo(at(b, 0.18, 1.0));
-    body.lineTo(at(b, 0.82, 1.0));
-    body.lineTo(at(b, 0.9, 0.32));
-    p.drawPath(body);
+    drawThrough(p, b, { { 0.1, 0.32 }, { 0.18, 1.0 }, { 0.82, 1.0 }, { 0.9, 0.32 } });
     QPen ribs = linePen(colour, stroke * 0.8);
     p.setPen(ribs);
     p.drawLine(at(b, 0.4, 0.44), at(b, 0.41, 0.86));
     p.drawLine(at(b, 0.6, 0.44), at(b, 0.59, 0.86));
-    p.restore();
 }
 
 void Glyphs::clearList(QPainter& p, const QRectF& b, const QColor& colour, const QColor& badge, qreal stroke)
 {
-    p.save();
-    p.setPen(linePen(colour, stroke));
+    const LineScope scope(p, colour, stroke);
     p.drawLine(at(b, 0.0, 0.15), at(b, 0.78, 0.15));
     p.drawLine(at(b, 0.0, 0.45), at(b, 0.55, 0.45));
     p.drawLine(at(b, 0.0, 0.75), at(b, 0.4, 0.75));
@@ -111,13 +122,11 @@ void Glyphs::clearList(QPainter& p, const QRectF& b, const QColor& colour, const
     const QPointF c = at(b, 0.78, 0.7);
     p.drawLine(c + QPointF(-s, -s), c + QPointF(s, s));
     p.drawLine(c + QPointF(s, -s), c + QPointF(-s, s));
-    p.restore();
 }
 
 void Glyphs::calculator(QPainter& p, const QRectF& b, const QColor& colour, qreal stroke)
 {
-    p.save();
-    p.setPen(linePen(colour, stroke));
+    const LineScope scope(p, colour, stroke);
     p.setBrush(Qt::NoBrush);
     const qreal half = stroke / 2;
     p.drawRoundedRect(b.adjusted(half, half, -half, -half), b.width() * 0.14, b.width() * 0.14);
@@ -135,28 +144,20 @@ void Glyphs::calculator(QPainter& p, const QRectF& b, const QColor& colour, qrea
             p.drawEllipse(c, r, r);
         }
     }
-    p.restore();
 }
 
 void Glyphs::camera(QPainter& p, const QRectF& b, const QColor& colour, qreal stroke)
 {
-    p.save();
-    p.setPen(linePen(colour, stroke));
+    const LineScope scope(p, colour, stroke);
     p.setBrush(Qt::NoBrush);
     QPainterPath body;
     const QRectF r(b.left(), b.top() + b.height() * 0.22, b.width(), b.height() * 0.78);
     body.addRoundedRect(r, b.width() * 0.1, b.width() * 0.1);
     p.drawPath(body);
     // Viewfinder bump.
-    QPainterPath bump;
-    bump.moveTo(at(b, 0.3, 0.22));
-    bump.lineTo(at(b, 0.37, 0.04));
-    bump.lineTo(at(b, 0.63, 0.04));
-    bump.lineTo(at(b, 0.7, 0.22));
-    p.drawPath(bump);
+    drawThrough(p, b, { { 0.3, 0.22 }, { 0.37, 0.04 }, { 0.63, 0.04 }, { 0.7, 0.22 } });
     const qreal lens = qMin(r.width(), r.height()) * 0.27;
     p.drawEllipse(r.center(), lens, lens);
-    p.restore();
 }
 
 void Glyphs::cameraOff(QPainter& p, const QRectF& box, const QColor& colour, qreal stroke)
@@ -188,8 +189,7 @@ void Glyphs::cameraOff(QPainter& p, const QRectF& box, const QColor& colour, qre
 
 void Glyphs::sliders(QPainter& p, const QRectF& b, const QColor& colour, qreal stroke)
 {
-    p.save();
-    p.setPen(linePen(colour, stroke));
+    const LineScope scope(p, colour, stroke);
     const qreal knobs[3] = {0.3, 0.7, 0.45};
     for (int i = 0; i < 3; ++i) {
         const qreal y = b.top() + b.height() * (0.15 + 0.35 * i);
@@ -199,13 +199,11 @@ void Glyphs::sliders(QPainter& p, const QRectF& b, const QColor& colour, qreal s
         p.setBrush(colour);
         p.drawEllipse(QPointF(b.left() + b.width() * knobs[i], y), stroke * 1.5, stroke * 1.5);
     }
-    p.restore();
 }
 
 void Glyphs::move(QPainter& p, const QRectF& b, const QColor& colour, qreal stroke)
 {
-    p.save();
-    p.setPen(linePen(colour, stroke));
+    const LineScope scope(p, colour, stroke);
     p.setBrush(Qt::NoBrush);
     const QPointF c = b.center();
     p.drawLine(QPointF(b.left(), c.y()), QPointF(b.right(), c.y()));
@@ -223,26 +221,18 @@ void Glyphs::move(QPainter& p, const QRectF& b, const QColor& colour, qreal stro
     head(QPointF(b.right(), c.y()), QPointF(1, 0));
     head(QPointF(c.x(), b.top()), QPointF(0, -1));
     head(QPointF(c.x(), b.bottom()), QPointF(0, 1));
-    p.restore();
 }
 
 void Glyphs::check(QPainter& p, const QRectF& b, const QColor& colour, qreal stroke)
 {
-    p.save();
-    p.setPen(linePen(colour, stroke));
+    const LineScope scope(p, colour, stroke);
     p.setBrush(Qt::NoBrush);
-    QPainterPath path;
-    path.moveTo(at(b, 0.0, 0.55));
-    path.lineTo(at(b, 0.36, 0.9));
-    path.lineTo(at(b, 1.0, 0.12));
-    p.drawPath(path);
-    p.restore();
+    drawThrough(p, b, { { 0.0, 0.55 }, { 0.36, 0.9 }, { 1.0, 0.12 } });
 }
 
 void Glyphs::storage(QPainter& p, const QRectF& b, const QColor& colour, qreal stroke)
 {
-    p.save();
-    p.setPen(linePen(colour, stroke));
+    const LineScope scope(p, colour, stroke);
     p.setBrush(Qt::NoBrush);
     const qreal ry = b.height() * 0.14;
     const QRectF top(b.left(), b.top(), b.width(), 2 * ry);
@@ -255,5 +245,4 @@ void Glyphs::storage(QPainter& p, const QRectF& b, const QColor& colour, qreal s
         const QRectF rim(b.left(), cy - ry, b.width(), 2 * ry);
         p.drawArc(rim, 180 * 16, 180 * 16);
     }
-    p.restore();
 }

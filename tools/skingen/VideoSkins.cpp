@@ -43,20 +43,22 @@ void VideoSkins::button(QPainter& p, const QSize& size, Icon icon, bool active)
         glyph = SkinPalette::onChromeMuted();
     }
     const QPointF c(size.width() / 2.0, size.height() / 2.0);
-    switch (icon) {
-    case Icon::Close:
-        Glyphs::close(p, QRectF(c.x() - 4, c.y() - 4, 8, 8), glyph, 1.6);
-        break;
-    case Icon::Snapshot:
-        Glyphs::camera(p, QRectF(c.x() - 6.5, c.y() - 5.5, 13, 11), glyph, 1.4);
-        break;
-    case Icon::Property:
-        Glyphs::sliders(p, QRectF(c.x() - 6, c.y() - 5.5, 12, 11), glyph, 1.3);
-        break;
-    case Icon::Drag:
-        Glyphs::move(p, QRectF(c.x() - 6.5, c.y() - 6.5, 13, 13), glyph, 1.4);
-        break;
-    }
+    // Each icon's glyph, the size it is centred in and its stroke, in the order of Icon.
+    struct Drawing {
+        void (*draw)(QPainter&, const QRectF&, const QColor&, qreal);
+        QSizeF size;
+        qreal stroke;
+    };
+    const Drawing drawings[] = {
+        { &Glyphs::close, QSizeF(8, 8), 1.6 },
+        { &Glyphs::camera, QSizeF(13, 11), 1.4 },
+        { &Glyphs::sliders, QSizeF(12, 11), 1.3 },
+        { &Glyphs::move, QSizeF(13, 13), 1.4 },
+    };
+    const Drawing& d = drawings[static_cast<int>(icon)];
+    const QRectF box(c.x() - d.size.width() / 2, c.y() - d.size.height() / 2, d.size.width(),
+                     d.size.height());
+    d.draw(p, box, glyph, d.stroke);
 }
 
 void VideoSkins::noVideo(QPainter& p, const QSize& size)
