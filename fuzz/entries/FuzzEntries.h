@@ -23,3 +23,5 @@ int FuzzWideDigits(const uint8_t* data, size_t size);
 int FuzzSkinStrings(const uint8_t* data, size_t size);
 // A clip file, opened and decoded for a bounded number of frames.
 int FuzzClip(const uint8_t* data, size_t size);
+// A site file of tallix-plan, read and summed in both areas.
+int FuzzSiteFile(const uint8_t* data, size_t size);

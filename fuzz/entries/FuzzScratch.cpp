@@ -33,7 +33,7 @@ const std::string& FuzzScratch::Dir()
 
 std::string FuzzScratch::Write(const std::string& name, const uint8_t* data, size_t size)
 {
-    const std::string path = Dir() + "/" + name;
+    std::string path = Dir() + "/" + name;
     std::ofstream out(path, std::ios::binary | std::ios::trunc);
     out.write(reinterpret_cast<const char*>(data), static_cast<std::streamsize>(size));
     out.close();

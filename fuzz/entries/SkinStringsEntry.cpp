@@ -32,7 +32,7 @@ const char* const kImages[][3] = {
 const QString& SkinDir()
 {
     static const QString dir = [] {
-        const QString path = QString::fromStdString(FuzzScratch::Dir()) + QStringLiteral("/Skin/");
+        QString path = QString::fromStdString(FuzzScratch::Dir()) + QStringLiteral("/Skin/");
         QDir().mkpath(path);
         for (const auto& image : kImages) {
             QImage picture(QByteArray(image[1]).toInt(), QByteArray(image[2]).toInt(),

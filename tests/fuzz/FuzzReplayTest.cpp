@@ -33,6 +33,7 @@ const Target kTargets[] = {
     { "wide_digits", FuzzWideDigits },
     { "skin_strings", FuzzSkinStrings },
     { "clip", FuzzClip },
+    { "site_file", FuzzSiteFile },
 };
 
 const fs::path kFuzzDir = fs::path(TALLIX_SOURCE_DIR) / "fuzz";
