@@ -10,7 +10,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-all=(layout dictionary language_choice settings coded_settings wide_digits skin_strings clip)
+all=(layout dictionary language_choice settings coded_settings wide_digits skin_strings clip site_file)
 targets=("${@:-${all[@]}}")
 for t in "${targets[@]}"; do
   [ -d "fuzz/corpus/$t" ] || { echo "tools/fuzz.sh: no target '$t' (${all[*]})" >&2; exit 2; }

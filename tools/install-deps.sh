@@ -13,9 +13,9 @@ PACKAGES=(
   libgtest-dev libgmock-dev googletest
   xvfb xauth xdotool
   fonts-noto-cjk fonts-dejavu-core
-  clang libclang-rt-14-dev
+  clang libclang-rt-14-dev clang-format clang-tidy python3
   valgrind strace
-  dpkg-dev file
+  dpkg-dev file lintian appstream desktop-file-utils
 )
 
 if [ "$(id -u)" -eq 0 ]; then

@@ -1,7 +1,9 @@
 #!/usr/bin/env bash
 # Installs what is missing, builds Tallix with its tests and runs them all:
-#   1. the test suite in build/ (Debug), the valgrind and no-writes session
-#      included;
+#   0. the layer check (tools/check-layers.py) and the format check
+#      (tools/format.sh --check), before anything is built;
+#   1. the test suite in build/ (Debug, warnings as errors), the valgrind and
+#      no-writes session included;
 #   2. the scripted user session under AddressSanitizer and UBSan;
 #   3. every fuzz target for TALLIX_FUZZ_SECONDS seconds (default 60);
 #   4. the Debian package: built, installed, started and removed again
@@ -13,6 +15,10 @@ cd "$(dirname "$0")/.."
 
 tools/install-deps.sh
 
+echo "== layers and format"
+python3 tools/check-layers.py
+tools/format.sh --check
+
 build=build
 sanitize=OFF
 if [ "${TALLIX_SANITIZE:-0}" = "1" ]; then
@@ -20,7 +26,7 @@ if [ "${TALLIX_SANITIZE:-0}" = "1" ]; then
   sanitize=ON
 fi
 
-cmake -S . -B "$build" -DCMAKE_BUILD_TYPE=Debug -DTALLIX_SANITIZE="$sanitize"
+cmake -S . -B "$build" -DCMAKE_BUILD_TYPE=Debug -DTALLIX_SANITIZE="$sanitize" -DTALLIX_WERROR=ON
 cmake --build "$build" -j"$(nproc)"
 ctest --test-dir "$build" --output-on-failure -j"$(nproc)"
 
@@ -29,7 +35,7 @@ if [ "$sanitize" = ON ] || [ "${TALLIX_QUICK:-0}" = "1" ]; then
 fi
 
 echo "== the user session under AddressSanitizer and UBSan"
-cmake -S . -B build-sanitize -DCMAKE_BUILD_TYPE=Debug -DTALLIX_SANITIZE=ON >/dev/null
+cmake -S . -B build-sanitize -DCMAKE_BUILD_TYPE=Debug -DTALLIX_SANITIZE=ON -DTALLIX_WERROR=ON >/dev/null
 cmake --build build-sanitize -j"$(nproc)" --target tallix_session
 ctest --test-dir build-sanitize --output-on-failure -R '^session$'
 
