@@ -1,9 +1,9 @@
 #include "Config/ConfigXMLPersistImp.h"
 
-#include <sys/stat.h>
-
 #include "language/SFStreamConvert.h"
 #include "language/XmlFileLoader.h"
+
+#include <sys/stat.h>
 
 using SF_SOFT_BASE::CSFStreamConvert;
 
@@ -11,8 +11,7 @@ namespace {
 
 // The element's "value" as query reads it; def without the element or a readable value.
 template <class T>
-T QueryValue(const TiXmlElement* element, T def,
-             int (TiXmlElement::*query)(const char*, T*) const)
+T QueryValue(const TiXmlElement* element, T def, int (TiXmlElement::*query)(const char*, T*) const)
 {
     T value = def;
     if (element && (element->*query)("value", &value) != TIXML_SUCCESS)
@@ -79,8 +78,7 @@ DWORD CConfigXMLPersistImp::ReadDword(const wchar_t* section, const wchar_t* nam
 }
 
 std::wstring CConfigXMLPersistImp::ReadString(const wchar_t* section, const wchar_t* name,
-                                              std::wstring def, DWORD /*spare1*/,
-                                              DWORD /*spare2*/)
+                                              std::wstring def, DWORD /*spare1*/, DWORD /*spare2*/)
 {
     TiXmlElement* element = FindElement(section, name);
     const char* value = element ? element->Attribute("value") : nullptr;

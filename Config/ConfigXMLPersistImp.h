@@ -1,9 +1,9 @@
 #pragma once
 
+#include "Config/IConfigPersistent.h"
+
 #include <string>
 #include <tinyxml.h>
-
-#include "Config/IConfigPersistent.h"
 
 // Settings read from "config.xml" in the current directory.
 class CConfigXMLPersistImp : public IConfigPersistent {
@@ -11,7 +11,8 @@ public:
     // The argument is ignored: the file is always "config.xml".
     explicit CConfigXMLPersistImp(std::string unused);
 
-    double ReadDouble(const wchar_t* section, const wchar_t* name, double def, DWORD spare) override;
+    double ReadDouble(const wchar_t* section, const wchar_t* name, double def,
+                      DWORD spare) override;
     int ReadInt(const wchar_t* section, const wchar_t* name, int def, DWORD spare) override;
     bool ReadBool(const wchar_t* section, const wchar_t* name, bool def, DWORD spare) override;
     DWORD ReadDword(const wchar_t* section, const wchar_t* name, DWORD def, DWORD spare) override;

@@ -1,15 +1,15 @@
 #include "Config/VexUISetting.h"
 
+#include "Config/IConfigPersistent.h"
+#include "Config/VexUISettingItem.h"
+#include "language/SFStreamConvert.h"
+
 #include <cstdio>
 #include <cstdlib>
 #include <new>
 #include <string>
 #include <sys/stat.h>
 #include <tinyxml.h>
-
-#include "Config/IConfigPersistent.h"
-#include "language/SFStreamConvert.h"
-#include "Config/VexUISettingItem.h"
 
 using SF_SOFT_BASE::CSFStreamConvert;
 
@@ -89,7 +89,7 @@ bool VexUISetting::WriteEncoded(const unsigned char* buffer, int length)
     if (!file)
         return false;
     for (int i = 0; buffer && i < length; ++i) {
-        char group[5] = {0, 0, 0, 0, 0};
+        char group[5] = { 0, 0, 0, 0, 0 };
         std::snprintf(group, sizeof group, "%d", static_cast<signed char>(buffer[i]) * 4);
         std::fwrite(group, 1, 4, file);
         std::fseek(file, 0, SEEK_END);
@@ -121,7 +121,7 @@ unsigned char* VexUISetting::ReadEncoded()
         return nullptr;
     }
     for (std::size_t i = 0; i < count; ++i) {
-        char group[5] = {0, 0, 0, 0, 0};
+        char group[5] = { 0, 0, 0, 0, 0 };
         if (std::fread(group, 1, 4, file) != 4)
             break;
         // Logical shift: "-4" comes back as 0xFF.

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <list>
-
 #include "platform/WinTypes.h"
+
+#include <list>
 
 class IConfigPersistent;
 class VexUISettingItem;

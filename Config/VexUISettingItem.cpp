@@ -1,12 +1,12 @@
 #include "Config/VexUISettingItem.h"
 
-#include <cstddef>
-#include <string>
-#include <tinyxml.h>
-
 #include "Config/ConfigAssert.h"
 #include "Config/IConfigPersistent.h"
 #include "language/SFStreamConvert.h"
+
+#include <cstddef>
+#include <string>
+#include <tinyxml.h>
 
 using SF_SOFT_BASE::CSFStreamConvert;
 
@@ -83,13 +83,13 @@ void VexUISettingItem::Load(IConfigPersistent* persistent)
     if (m_pBool) {
         CONFIG_ASSERT(! m_pDword && ! m_pFloat && NULL == m_pString, 154);
         CONFIG_ASSERT(m_nScale == 1 && m_nMin == 0 && m_nMax == 1, 155);
-        *m_pBool = persistent ? persistent->ReadBool(section, name, m_BoolDefault, 0)
-                              : m_BoolDefault;
+        *m_pBool =
+            persistent ? persistent->ReadBool(section, name, m_BoolDefault, 0) : m_BoolDefault;
     } else if (m_pDword) {
         CONFIG_ASSERT(! m_pFloat && m_pString == NULL, 160);
         CONFIG_ASSERT(( m_nScale == 0 && m_nMin == 0 && m_nMax == 0 ) || ( m_nScale && m_nMin < m_nMax ), 162);
-        *m_pDword = persistent ? persistent->ReadDword(section, name, m_DwordDefault, 0)
-                               : m_DwordDefault;
+        *m_pDword =
+            persistent ? persistent->ReadDword(section, name, m_DwordDefault, 0) : m_DwordDefault;
         if (m_nScale != 0 && m_nMin < m_nMax) {
             CONFIG_ASSERT(( m_DwordDefault >= m_nMin * m_nScale ) && ( m_DwordDefault <= m_nMax * m_nScale ), 167);
             // Only the bounds are scaled; the value keeps the file's units.
@@ -103,8 +103,8 @@ void VexUISettingItem::Load(IConfigPersistent* persistent)
     } else if (m_pFloat) {
         CONFIG_ASSERT(NULL == m_pString, 173);
         CONFIG_ASSERT(m_nScale == 0 && m_nMin == 0 && m_nMax == 0, 174);
-        *m_pFloat = persistent ? persistent->ReadDouble(section, name, m_FloatDefault, 0)
-                               : m_FloatDefault;
+        *m_pFloat =
+            persistent ? persistent->ReadDouble(section, name, m_FloatDefault, 0) : m_FloatDefault;
     } else if (m_pString) {
         CONFIG_ASSERT(m_nScale == 0 && m_nMin == 0 && m_nMax == 0, 179);
         *m_pString = persistent ? persistent->ReadString(section, name, m_StringDefault, 0, 0)

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <string>
-
 #include "platform/WinTypes.h"
+
+#include <string>
 
 class IConfigPersistent;
 class TiXmlElement;
@@ -19,8 +19,8 @@ public:
     VexUISettingItem(const wchar_t* section, const wchar_t* name, double* target, double def,
                      DWORD scale, DWORD min, DWORD max, DWORD extra = 0, bool extraFlag = false);
     VexUISettingItem(const wchar_t* section, const wchar_t* name, std::wstring* target,
-                     const std::wstring& def, DWORD scale, DWORD min, DWORD max,
-                     DWORD extra = 0, bool extraFlag = false);
+                     const std::wstring& def, DWORD scale, DWORD min, DWORD max, DWORD extra = 0,
+                     bool extraFlag = false);
 
     // Without a reader the default is taken, as for a missing file.
     void Load(IConfigPersistent* persistent);

@@ -14,7 +14,6 @@
 
 #include <QString>
 #include <QWidget>
-
 #include <array>
 #include <string>
 #include <type_traits>
@@ -80,7 +79,8 @@ void Name(Control* pControl, const char* pszName, const wchar_t* pszCaptionKey)
 }
 
 // The panel's combos are cut from one image each and tile every part.
-ImageComboBoxStyle TiledComboSkin(const wchar_t* pszImage, const std::array<std::wstring, 7>& slices)
+ImageComboBoxStyle TiledComboSkin(const wchar_t* pszImage,
+                                  const std::array<std::wstring, 7>& slices)
 {
     ImageComboBoxStyle style = SFImageComboBoxStyle(pszImage, slices);
     std::wstring* modes[] = { &style.strNormalMode,    &style.strHoverMode,
@@ -118,16 +118,19 @@ CSFStatic* CreateLabel(ISFStaticEvent* pHandler, void* pParent, const wchar_t* p
 } // namespace
 
 const unsigned int CCalculatorBottom::kModeRadioIds[kModeCount] = {
-    ID_RADIO_DISK_REQUIREMENT, ID_RADIO_RECORDING_DAY, ID_RADIO_RAID, ID_RADIO_RAID2,
+    ID_RADIO_DISK_REQUIREMENT,
+    ID_RADIO_RECORDING_DAY,
+    ID_RADIO_RAID,
+    ID_RADIO_RAID2,
 };
 
 CCalculatorBottom::CCalculatorBottom(void* pOwner)
     : m_nMode(MODE_DISK_REQUIREMENT), m_nChannels(0), m_dTotalBitrate(0.0), m_bCustomCapacity(0),
       m_bCustomInTB(0), m_rcPage{ 0, 0, 0, 0 }, m_pOwner(pOwner), m_pStaticChannelCount(nullptr),
       m_pStaticBitrate(nullptr), m_pModeRadios{}, m_pComboCapacity(nullptr),
-      m_pComboCapacityUnit(nullptr), m_pEditCustomCapacity(nullptr), m_pComboRecordPlan(nullptr),
-      m_pEditDayHours{}, m_pSpinDays(nullptr), m_pSpinRaid2Days(nullptr),
-      m_pStaticResultCaption(nullptr), m_pStaticResultValue(nullptr)
+      m_pComboCapacityUnit(nullptr), m_pEditCustomCapacity(nullptr),
+      m_pComboRecordPlan(nullptr), m_pEditDayHours{}, m_pSpinDays(nullptr),
+      m_pSpinRaid2Days(nullptr), m_pStaticResultCaption(nullptr), m_pStaticResultValue(nullptr)
 {
     // The bay options and data disk tables are filled by m_raidTables itself.
 }
@@ -141,10 +144,18 @@ SF_BEGIN_MSGMAP(CCalculatorBottom)
     SF_ON_COMMAND(ID_BTN_CALCULATE, Recalculate)
 SF_END_MSGMAP()
 
-void CCalculatorBottom::OnDestroy() {}
-void CCalculatorBottom::OnSize(unsigned int, int, int) {}
-void CCalculatorBottom::OnLButtonDown(unsigned int, tagPOINT) {}
-void CCalculatorBottom::OnLButtonDblClk(unsigned int, tagPOINT) {}
+void CCalculatorBottom::OnDestroy()
+{
+}
+void CCalculatorBottom::OnSize(unsigned int, int, int)
+{
+}
+void CCalculatorBottom::OnLButtonDown(unsigned int, tagPOINT)
+{
+}
+void CCalculatorBottom::OnLButtonDblClk(unsigned int, tagPOINT)
+{
+}
 
 void CCalculatorBottom::SetPageRect(const RECT& rc)
 {
@@ -193,9 +204,15 @@ void CCalculatorBottom::CreateTotalsAndRadios()
     };
     const TotalLabel totals[] = {
         { nullptr, L"Total", { 0, 5, 70, 30 }, kAlignRightCentred, kNameTotal },
-        { &m_pStaticChannelCount, nullptr, { 100, 5, w + 40, 30 }, kAlignLeftCentred,
+        { &m_pStaticChannelCount,
+          nullptr,
+          { 100, 5, w + 40, 30 },
+          kAlignLeftCentred,
           kNameChannelCount },
-        { &m_pStaticBitrate, nullptr, { 3 * w + 140, 5, 4 * w + 140, 30 }, kAlignLeftCentred,
+        { &m_pStaticBitrate,
+          nullptr,
+          { 3 * w + 140, 5, 4 * w + 140, 30 },
+          kAlignLeftCentred,
           kNameBitrate },
     };
     for (const TotalLabel& total : totals) {
@@ -219,10 +236,10 @@ void CCalculatorBottom::CreateTotalsAndRadios()
         { L"RAID Calculator", -160, { 304, 45, 462, 75 } },
         { L"RAID Calculator2", -160, { 454, 45, 612, 75 } },
     };
-    ImageRadioBox skin = SFImageRadioBox(
-        L"radioBox_checked.png", L"radioBox_normal.png", L"radioBox_checked.png",
-        L"radioBox_normal.png", L"radioBox_normal.png", L"radioBox_normal.png",
-        L"radioBox_normal.png", L"radioBox_normal.png");
+    ImageRadioBox skin =
+        SFImageRadioBox(L"radioBox_checked.png", L"radioBox_normal.png", L"radioBox_checked.png",
+                        L"radioBox_normal.png", L"radioBox_normal.png", L"radioBox_normal.png",
+                        L"radioBox_normal.png", L"radioBox_normal.png");
     for (int nMode = 0; nMode < kModeCount; ++nMode) {
         CSFRadioBox* pRadio = SFCreateRadioBox(this);
         m_pModeRadios[nMode] = pRadio;
@@ -265,10 +282,9 @@ void CCalculatorBottom::CreateCaptions()
         Name(Keep(caption.slot, pStatic), caption.pszName, nullptr);
     }
 
-    CSFStatic* pTips =
-        CreateLabel(this, pParent, LangText(L"Devices Tips").c_str(), kStyleVisible,
-                    RECT{ 10, 227, 950, 260 }, 0,
-                    LabelStyle{ kCaptionTextSize, kAlignLeft, kColourRed, true });
+    CSFStatic* pTips = CreateLabel(this, pParent, LangText(L"Devices Tips").c_str(), kStyleVisible,
+                                   RECT{ 10, 227, 950, 260 }, 0,
+                                   LabelStyle{ kCaptionTextSize, kAlignLeft, kColourRed, true });
     Name(Keep(SLOT_DEVICES_TIPS, pTips), kNameDevicesTips, nullptr);
 }
 
@@ -276,9 +292,9 @@ void CCalculatorBottom::CreateInputs()
 {
     void* pParent = GetUIWnd();
     ImageComboBoxStyle comboSkin =
-        TiledComboSkin(L"ComboBox.png", { L"0,0,150,40", L"0,0,150,40", L"0,48,150,40",
-                                          L"0,48,150,40", L"0,142,150,40", L"0,0,150,40",
-                                          L"0,48,150,40" });
+        TiledComboSkin(L"ComboBox.png",
+                       { L"0,0,150,40", L"0,0,150,40", L"0,48,150,40", L"0,48,150,40",
+                         L"0,142,150,40", L"0,0,150,40", L"0,48,150,40" });
     auto createCombo = [&](Slot slot, unsigned int nID, ImageComboBoxStyle& skin,
                            const wchar_t* pszCaptionKey) {
         CSFComboBox* pCombo = SFCreateComboBox(this);
@@ -297,16 +313,17 @@ void CCalculatorBottom::CreateInputs()
         m_pComboCapacity->AddString(LangText(L"Customize").c_str());
 
     ImageComboBoxStyle planSkin =
-        TiledComboSkin(L"ComboBox _150.png", { L"0,0,225,40", L"0,0,225,40", L"0,28,225,40",
-                                               L"0,48,225,40", L"0,142,225,40", L"0,0,225,40",
-                                               L"0,48,225,40" });
+        TiledComboSkin(L"ComboBox _150.png",
+                       { L"0,0,225,40", L"0,0,225,40", L"0,28,225,40", L"0,48,225,40",
+                         L"0,142,225,40", L"0,0,225,40", L"0,48,225,40" });
     m_pComboRecordPlan =
         createCombo(SLOT_COMBO_RECORD_PLAN, ID_COMBO_RECORD_PLAN, planSkin, L"Record Plan");
     AddItems(m_pComboRecordPlan, kPlanKeys, true);
 
     for (int i = 0; i < kDayCount; ++i) {
-        CSFStatic* pDay = CreateLabel(this, pParent, LangText(kDayKeys[i]).c_str(), kStyleVisible,
-                                      kNoRect, 0, LabelStyle{ kDayTextSize, kAlignRight, 0, false });
+        CSFStatic* pDay =
+            CreateLabel(this, pParent, LangText(kDayKeys[i]).c_str(), kStyleVisible, kNoRect, 0,
+                        LabelStyle{ kDayTextSize, kAlignRight, 0, false });
         Keep(static_cast<Slot>(SLOT_DAY_LABEL_FIRST + i), pDay);
         Name(pDay, (kNameDayPrefix + std::to_string(i)).c_str(), nullptr);
         CSFEditCtrl* pEdit = SFCreateEditCtrl(this);
@@ -362,9 +379,9 @@ void CCalculatorBottom::CreateInputs()
     Name(m_raid2.pDisk, kNameRaid2Disk, nullptr);
 
     ImageComboBoxStyle unitSkin =
-        TiledComboSkin(L"ComboBox_GBTB.png", { L"0,0,83,35", L"0,0,83,35", L"0,40,83,35",
-                                               L"0,40,83,35", L"0,124,83,35", L"0,0,83,35",
-                                               L"0,40,83,35" });
+        TiledComboSkin(L"ComboBox_GBTB.png",
+                       { L"0,0,83,35", L"0,0,83,35", L"0,40,83,35", L"0,40,83,35", L"0,124,83,35",
+                         L"0,0,83,35", L"0,40,83,35" });
     m_pComboCapacityUnit = createCombo(SLOT_COMBO_CAPACITY_UNIT, ID_COMBO_CAPACITY_UNIT, unitSkin,
                                        L"Storage Capacity");
     AddItems(m_pComboCapacityUnit, kUnitItems, false);

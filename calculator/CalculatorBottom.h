@@ -46,9 +46,9 @@ public:
         ID_EDIT_CUSTOM_CAPACITY = 0x811,
         ID_COMBO_CAPACITY_UNIT = 0x814,
         ID_COMBO_RECORD_PLAN = 0x815,
-        ID_EDIT_DAY_HOURS_FIRST = 0x816,  // Sunday; Saturday is the last
+        ID_EDIT_DAY_HOURS_FIRST = 0x816, // Sunday; Saturday is the last
         ID_EDIT_DAY_HOURS_LAST = 0x81C,
-        ID_COMBO_RAID_DISK = 0xE43,  // both RAID modes
+        ID_COMBO_RAID_DISK = 0xE43, // both RAID modes
         ID_COMBO_RAID_DEV_TYPE = 0xE4A,
         ID_COMBO_RAID_LEVEL = 0xE4B,
         ID_COMBO_RAID_BAYS = 0xE4C,
@@ -56,7 +56,7 @@ public:
         ID_COMBO_RAID2_LEVEL = 0xE4E,
         ID_COMBO_RAID2_BAYS = 0xE4F,
         ID_BTN_CALCULATE = 0xE49,
-        ID_SPIN_DAYS = 0x7EB,  // both day spinners
+        ID_SPIN_DAYS = 0x7EB, // both day spinners
         ID_NONE = 0xFFFFFFFFu,
     };
 
@@ -153,11 +153,11 @@ private:
 
     // When a control of the layout shows.
     enum Shown : unsigned char {
-        SHOWN,            // placed and shown in its modes, hidden in the others
-        SHOWN_IF_CUSTOM,  // ... while the capacity list stands on its last entry
-        SHOWN_IF_WEEKLY,  // ... while the record plan goes by the hour
-        SHOWN_IN_PLACE,   // shown in its modes where it was made, hidden in the others
-        ALWAYS_SHOWN,     // only moved
+        SHOWN,           // placed and shown in its modes, hidden in the others
+        SHOWN_IF_CUSTOM, // ... while the capacity list stands on its last entry
+        SHOWN_IF_WEEKLY, // ... while the record plan goes by the hour
+        SHOWN_IN_PLACE,  // shown in its modes where it was made, hidden in the others
+        ALWAYS_SHOWN,    // only moved
     };
     struct Placement {
         int slot;

@@ -90,8 +90,7 @@ void CCalculatorBottom::SelectChanged(int id, int index, void*)
     const unsigned int nID = static_cast<unsigned int>(id);
     RaidInputs* pRaid = FindRaidInputs(nID);
     switch (nID) {
-    case ID_COMBO_CAPACITY:
-    {
+    case ID_COMBO_CAPACITY: {
         const bool bCustom = m_pComboCapacity && index == m_pComboCapacity->GetCount() - 1;
         ShowWhere(SHOWN_IF_CUSTOM, bCustom);
         // The answer that the reset text brings still counts the list's capacity.
@@ -116,8 +115,9 @@ void CCalculatorBottom::SelectChanged(int id, int index, void*)
         break;
     case ID_COMBO_RAID_BAYS:
     case ID_COMBO_RAID2_BAYS:
-        pRaid->nBays = m_raidTables.LookupBayCount(
-            Selection(pRaid->pDevType), Selection(pRaid->pLevel), static_cast<unsigned>(index));
+        pRaid->nBays =
+            m_raidTables.LookupBayCount(Selection(pRaid->pDevType), Selection(pRaid->pLevel),
+                                        static_cast<unsigned>(index));
         break;
     default:
         // The disk size combos only recalculate.
@@ -144,7 +144,8 @@ void CCalculatorBottom::RebuildBayCombo(RaidInputs& raid, int nDevice, int nLeve
 
 void CCalculatorBottom::OnCapacityUnitChanged(int nIndex)
 {
-    m_bCustomInTB = (m_pComboCapacityUnit && nIndex == m_pComboCapacityUnit->GetCount() - 1) ? 1 : 0;
+    m_bCustomInTB =
+        (m_pComboCapacityUnit && nIndex == m_pComboCapacityUnit->GetCount() - 1) ? 1 : 0;
     if (nIndex != UNIT_TB)
         return;
     // Digits before a stray character still count here.

@@ -100,10 +100,11 @@ void CCalculatorBottom::RecalculateRequestDevice()
 {
     const std::wstring strDevice = LangText(L"Device");
     const std::wstring strDevices = LangText(L"Devices");
-    const CalcResult result = CalcDeviceCount(
-        m_raidTables, m_dTotalBitrate, DaysOf(m_pSpinRaid2Days), Selection(m_raid2.pDevType),
-        Selection(m_raid2.pLevel), Selection(m_raid2.pBays), Selection(m_raid2.pDisk),
-        strDevice.c_str(), strDevices.c_str());
+    const CalcResult result =
+        CalcDeviceCount(m_raidTables, m_dTotalBitrate, DaysOf(m_pSpinRaid2Days),
+                        Selection(m_raid2.pDevType), Selection(m_raid2.pLevel),
+                        Selection(m_raid2.pBays), Selection(m_raid2.pDisk), strDevice.c_str(),
+                        strDevices.c_str());
     if (result.bFixValueRect)
         FixRaid2ValueRect();
     ShowResult(L"Request Device:", result.strValue, result.bTwinkle);

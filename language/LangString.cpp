@@ -1,17 +1,17 @@
 #include "language/LangString.h"
 
+#include "language/SFStreamConvert.h"
+#include "language/XmlFileLoader.h"
+#include "platform/WinModule.h"
+#include "platform/WinTypes.h"
+#include "platform/WinWideString.h"
+
 #include <cstdlib>
 #include <cstring>
 #include <cwchar>
 #include <map>
 #include <sys/stat.h>
 #include <tinyxml.h>
-
-#include "language/SFStreamConvert.h"
-#include "platform/WinModule.h"
-#include "platform/WinTypes.h"
-#include "platform/WinWideString.h"
-#include "language/XmlFileLoader.h"
 
 int g_nLanguage = 1;
 
@@ -33,7 +33,7 @@ std::string g_strLangDirOverride;
 struct FailedFile {
     std::string path;
     off_t size = -1;
-    struct timespec mtime = {0, 0};
+    struct timespec mtime = { 0, 0 };
 };
 FailedFile g_lastFailure;
 
@@ -49,7 +49,7 @@ std::string ExecutableDirectory()
 {
     if (!g_strLangDirOverride.empty())
         return g_strLangDirOverride + "/";
-    char path[SF_MAX_PATH] = {0};
+    char path[SF_MAX_PATH] = { 0 };
     GetModuleFileNameA(nullptr, path, SF_MAX_PATH);
     const std::string text(path);
     std::size_t slash = text.rfind('/');
@@ -58,9 +58,9 @@ std::string ExecutableDirectory()
 
 bool SameAsLastFailure(const std::string& path, const struct stat& st)
 {
-    return g_lastFailure.path == path && g_lastFailure.size == st.st_size
-        && g_lastFailure.mtime.tv_sec == st.st_mtim.tv_sec
-        && g_lastFailure.mtime.tv_nsec == st.st_mtim.tv_nsec;
+    return g_lastFailure.path == path && g_lastFailure.size == st.st_size &&
+           g_lastFailure.mtime.tv_sec == st.st_mtim.tv_sec &&
+           g_lastFailure.mtime.tv_nsec == st.st_mtim.tv_nsec;
 }
 
 void CopyIntoBuffer(wchar_t* buffer, const wchar_t* text)
@@ -81,7 +81,7 @@ void LoadDictionary()
     else if (g_nLanguage == 0)
         fileName = "Lang_en.xml";
     else
-        return;  // no dictionary for other codes: every label shows its key
+        return; // no dictionary for other codes: every label shows its key
 
     std::string path = ExecutableDirectory() + fileName;
     struct stat st;

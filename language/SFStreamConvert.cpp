@@ -1,9 +1,9 @@
 #include "language/SFStreamConvert.h"
 
+#include "platform/WinCodePage.h"
+
 #include <cstddef>
 #include <string>
-
-#include "platform/WinCodePage.h"
 
 namespace {
 
@@ -32,7 +32,9 @@ Char* Converted(Convert convert)
 
 namespace SF_SOFT_BASE {
 
-CSFStreamConvert::CSFStreamConvert() : m_pszA(nullptr), m_pszW(nullptr) {}
+CSFStreamConvert::CSFStreamConvert() : m_pszA(nullptr), m_pszW(nullptr)
+{
+}
 
 CSFStreamConvert::CSFStreamConvert(const wchar_t* text, unsigned int codePage)
     : m_pszA(nullptr), m_pszW(nullptr)

@@ -2,7 +2,9 @@
 
 #include "platform/WinCodePage.h"
 
-CSFTextW::CSFTextW(const char* text, unsigned int codePage) : CSFTextW(text, -1, codePage) {}
+CSFTextW::CSFTextW(const char* text, unsigned int codePage) : CSFTextW(text, -1, codePage)
+{
+}
 
 CSFTextW::CSFTextW(const char* text, int length, unsigned int codePage)
     : CSFConvertedText([=](wchar_t* out, int size) {

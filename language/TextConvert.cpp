@@ -1,12 +1,13 @@
 #include "language/TextConvert.h"
 
-#include <cwchar>
-
 #include "platform/WinCodePage.h"
+
+#include <cwchar>
 
 int WideToNarrowInto(const wchar_t* text, char* buffer, int bufferLength, unsigned int codePage)
 {
-    int written = WideCharToMultiByte(codePage, 0, text, -1, buffer, bufferLength, nullptr, nullptr);
+    int written =
+        WideCharToMultiByte(codePage, 0, text, -1, buffer, bufferLength, nullptr, nullptr);
     // A failed conversion must not leave the caller an unterminated buffer.
     if (written == 0 && buffer && bufferLength > 0)
         buffer[0] = '\0';

@@ -66,7 +66,8 @@ int CXmlFileLoader::NestingDepth(const std::string& text, int limit)
             if (depth > 0)
                 --depth;
             pos = SkipPast(text, pos + 2, ">");
-        } else if (pos + 1 < text.size() && IsNameStart(static_cast<unsigned char>(text[pos + 1]))) {
+        } else if (pos + 1 < text.size() &&
+                   IsNameStart(static_cast<unsigned char>(text[pos + 1]))) {
             // Walk the tag, minding quoted attribute values that may hold '>'.
             char quote = 0;
             std::size_t end = pos + 1;
@@ -99,7 +100,7 @@ bool CXmlFileLoader::Parse(TiXmlDocument& doc, const std::string& text)
 {
     doc.Clear();
     if (NestingDepth(text, kMaxDepth) > kMaxDepth) {
-        doc.Parse("");  // leaves the document empty with its error flag set
+        doc.Parse(""); // leaves the document empty with its error flag set
         return false;
     }
     ParseWithSpare(doc, text, TIXML_DEFAULT_ENCODING);

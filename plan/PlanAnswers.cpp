@@ -58,10 +58,14 @@ PlanAnswer Begin(AnswerKind kind, const wchar_t* pszCaptionKey)
 const char* CPlanAnswers::KindName(AnswerKind kind)
 {
     switch (kind) {
-    case AnswerKind::DiskRequirement: return "disk_requirement";
-    case AnswerKind::RecordingDays: return "recording_days";
-    case AnswerKind::RaidCapacity: return "raid_capacity";
-    case AnswerKind::DeviceCount: return "device_count";
+    case AnswerKind::DiskRequirement:
+        return "disk_requirement";
+    case AnswerKind::RecordingDays:
+        return "recording_days";
+    case AnswerKind::RaidCapacity:
+        return "raid_capacity";
+    case AnswerKind::DeviceCount:
+        return "device_count";
     }
     return "";
 }
@@ -93,12 +97,11 @@ PlanAnswer CPlanAnswers::DiskRequirement(const PlanOptions& o, const SiteTotals&
         answer.explanation = { "no bit rate: nothing to record, 0.00GB" };
         return answer;
     }
-    answer.explanation = {
-        "GB needed = " + Int(o.nDays) + " days * " + PerDayFormula(t.dKbps) + " = " + Num(dGB)
-            + " GB (binary: 1 GB = 1024 MB, 1 MB = 8 Mbit, 1 Mbit = 1024 kbit)",
-        "shown in GB, or stepped by 1024 to TB, PB, EB while above 10000: "
-            + NarrowAscii(answer.strValue)
-    };
+    answer.explanation = { "GB needed = " + Int(o.nDays) + " days * " + PerDayFormula(t.dKbps) +
+                               " = " + Num(dGB) +
+                               " GB (binary: 1 GB = 1024 MB, 1 MB = 8 Mbit, 1 Mbit = 1024 kbit)",
+                           "shown in GB, or stepped by 1024 to TB, PB, EB while above 10000: " +
+                               NarrowAscii(answer.strValue) };
     return answer;
 }
 
@@ -125,21 +128,22 @@ PlanAnswer CPlanAnswers::RecordingDays(const PlanOptions& o, const SiteTotals& t
                           .strValue;
 
     const std::string strMedium = o.bCustomCapacity
-        ? o.strCustomCapacity + (o.bCustomInTB ? "TB" : "GB")
-        : SiteValues::CapacityItem(o.nCapacityIndex);
+                                      ? o.strCustomCapacity + (o.bCustomInTB ? "TB" : "GB")
+                                      : SiteValues::CapacityItem(o.nCapacityIndex);
     const double dUsable = UsableCapacityGB(o.nPercent, dRaw);
     answer.fields = { { "capacity", strMedium },
                       { "raw_gb", Num(dRaw) },
                       { "percent", Int(o.nPercent) },
                       { "usable_gb", Num(dUsable) },
                       { "plan", strPlan } };
-    std::string strMediumWhy = o.bCustomCapacity
-        ? "typed " + strMedium + " = " + o.strCustomCapacity + (o.bCustomInTB ? " * 1024" : "")
-            + " * 0.9313225 (decimal to binary GB)"
-        : strMedium + " from the capacity table (nominal GB * 0.9313225)";
+    std::string strMediumWhy =
+        o.bCustomCapacity
+            ? "typed " + strMedium + " = " + o.strCustomCapacity +
+                  (o.bCustomInTB ? " * 1024" : "") + " * 0.9313225 (decimal to binary GB)"
+            : strMedium + " from the capacity table (nominal GB * 0.9313225)";
     answer.explanation = { "medium: " + strMediumWhy + " = " + Num(dRaw) + " GB",
-                           "usable = " + Int(o.nPercent) + " (recordable percentage) * " + Num(dRaw) + " / 100 = "
-                               + Num(dUsable) + " GB" };
+                           "usable = " + Int(o.nPercent) + " (recordable percentage) * " +
+                               Num(dRaw) + " / 100 = " + Num(dUsable) + " GB" };
 
     long long nWeeks = 0;
     long long nDays = 0;
@@ -151,11 +155,11 @@ PlanAnswer CPlanAnswers::RecordingDays(const PlanOptions& o, const SiteTotals& t
         const RecordingDaysSplit split = SplitRecordingDays(dUsable, dPerDay);
         nDays = split.nWholeDays;
         dHours = split.dHours;
-        answer.explanation.push_back("per day = " + PerDayFormula(t.dKbps) + " = " + Num(dPerDay)
-                                     + " GB");
-        answer.explanation.push_back("days = " + Num(dUsable) + " / " + Num(dPerDay) + " = "
-                                     + Num(dUsable / dPerDay) + ": " + Int(nDays)
-                                     + " whole days, the rest * 24 = " + Fixed2(dHours) + " hours");
+        answer.explanation.push_back("per day = " + PerDayFormula(t.dKbps) + " = " + Num(dPerDay) +
+                                     " GB");
+        answer.explanation.push_back("days = " + Num(dUsable) + " / " + Num(dPerDay) + " = " +
+                                     Num(dUsable / dPerDay) + ": " + Int(nDays) +
+                                     " whole days, the rest * 24 = " + Fixed2(dHours) + " hours");
     } else {
         const double dPerHour = RecordingPerHourGB(t.dKbps);
         const double dRemain = dUsable / dPerHour;
@@ -163,15 +167,15 @@ PlanAnswer CPlanAnswers::RecordingDays(const PlanOptions& o, const SiteTotals& t
         nWeeks = walk.nWeeks;
         nDays = walk.nWholeWeekDays;
         dHours = walk.dHoursLeft;
-        answer.explanation.push_back("per hour = " + Num(t.dKbps)
-                                     + " kbps * 3600 / 1024 / 8 / 1024 = " + Num(dPerHour) + " GB");
-        answer.explanation.push_back("hours held = " + Num(dUsable) + " / " + Num(dPerHour) + " = "
-                                     + Num(dRemain));
-        answer.explanation.push_back("plan " + strPlan
-                                     + " (Sunday first): whole weeks first, then the days from "
-                                       "Sunday until the hours run out: "
-                                     + Int(nWeeks) + " weeks, " + Int(nDays) + " days, "
-                                     + Fixed2(dHours) + " hours");
+        answer.explanation.push_back("per hour = " + Num(t.dKbps) +
+                                     " kbps * 3600 / 1024 / 8 / 1024 = " + Num(dPerHour) + " GB");
+        answer.explanation.push_back("hours held = " + Num(dUsable) + " / " + Num(dPerHour) +
+                                     " = " + Num(dRemain));
+        answer.explanation.push_back("plan " + strPlan +
+                                     " (Sunday first): whole weeks first, then the days from "
+                                     "Sunday until the hours run out: " +
+                                     Int(nWeeks) + " weeks, " + Int(nDays) + " days, " +
+                                     Fixed2(dHours) + " hours");
     }
     if (o.bWeeklyPlan)
         answer.fields.push_back({ "weeks", Int(nWeeks) });
@@ -185,7 +189,8 @@ PlanAnswer CPlanAnswers::RaidCapacity(const PlanOptions& o) const
     PlanAnswer answer = Begin(AnswerKind::RaidCapacity, L"Available Capacity:");
     const CRaidTables tables;
     answer.strValue =
-        CalcRaidCapacity(tables, o.nRaidDevice, o.nRaidLevel, o.nRaidBaySel, o.nRaidDiskSel).strValue;
+        CalcRaidCapacity(tables, o.nRaidDevice, o.nRaidLevel, o.nRaidBaySel, o.nRaidDiskSel)
+            .strValue;
     const int nDisks = tables.LookupDataDisks(o.nRaidDevice, o.nRaidLevel, o.nRaidBaySel);
     const double dTB = RaidAvailableTB(o.nRaidDiskSel, nDisks);
     answer.fields = { { "device", SiteValues::kRaidDevices[o.nRaidDevice] },
@@ -194,13 +199,12 @@ PlanAnswer CPlanAnswers::RaidCapacity(const PlanOptions& o) const
                       { "disk_tb", Int(o.nRaidDiskSel + 1) },
                       { "data_disks", Int(nDisks) },
                       { "tb", Fixed2(dTB) } };
-    answer.explanation = {
-        std::string(SiteValues::kRaidDevices[o.nRaidDevice]) + " " + SiteValues::kRaidLevels[o.nRaidLevel]
-            + " with " + Int(o.nRaidBays) + " bays: " + Int(nDisks)
-            + " data disks (device table, hot spares and groups settled there)",
-        "available = " + Int(o.nRaidDiskSel + 1) + " TB * " + Int(nDisks) + " * 0.9 usable = "
-            + Num(dTB) + " TB"
-    };
+    answer.explanation = { std::string(SiteValues::kRaidDevices[o.nRaidDevice]) + " " +
+                               SiteValues::kRaidLevels[o.nRaidLevel] + " with " + Int(o.nRaidBays) +
+                               " bays: " + Int(nDisks) +
+                               " data disks (device table, hot spares and groups settled there)",
+                           "available = " + Int(o.nRaidDiskSel + 1) + " TB * " + Int(nDisks) +
+                               " * 0.9 usable = " + Num(dTB) + " TB" };
     return answer;
 }
 
@@ -210,10 +214,10 @@ PlanAnswer CPlanAnswers::DeviceCount(const PlanOptions& o, const SiteTotals& t) 
     const CRaidTables tables;
     const std::wstring strDevice = LangText(L"Device");
     const std::wstring strDevices = LangText(L"Devices");
-    answer.strValue = CalcDeviceCount(tables, t.dKbps, o.nRaidDays, o.nRaidDevice, o.nRaidLevel,
-                                      o.nRaidBaySel, o.nRaidDiskSel, strDevice.c_str(),
-                                      strDevices.c_str())
-                          .strValue;
+    answer.strValue =
+        CalcDeviceCount(tables, t.dKbps, o.nRaidDays, o.nRaidDevice, o.nRaidLevel, o.nRaidBaySel,
+                        o.nRaidDiskSel, strDevice.c_str(), strDevices.c_str())
+            .strValue;
     const int nDisks = tables.LookupDataDisks(o.nRaidDevice, o.nRaidLevel, o.nRaidBaySel);
     const double dCapacity = RaidDeviceCapacityGB(o.nRaidDiskSel, nDisks);
     const double dNeed = DiskRequirementGB(o.nRaidDays, t.dKbps);
@@ -227,15 +231,14 @@ PlanAnswer CPlanAnswers::DeviceCount(const PlanOptions& o, const SiteTotals& t) 
                       { "need_gb", Num(dNeed) },
                       { "device_gb", Num(dCapacity) },
                       { "devices", Int(nDevices) } };
-    answer.explanation = {
-        "need = " + Int(o.nRaidDays) + " days * " + PerDayFormula(t.dKbps) + " = " + Num(dNeed)
-            + " GB",
-        "one device = " + Int(o.nRaidDiskSel + 1) + " TB * " + Int(nDisks) + " data disks ("
-            + SiteValues::kRaidDevices[o.nRaidDevice] + " " + SiteValues::kRaidLevels[o.nRaidLevel]
-            + ", " + Int(o.nRaidBays) + " bays) * 0.9 * 1024 = " + Num(dCapacity) + " GB",
-        t.dKbps == 0.0 ? std::string("no bit rate: no device needed")
-                       : "devices = " + Num(dNeed) + " / " + Num(dCapacity)
-                + ", rounded up unless exact = " + Int(nDevices)
-    };
+    answer.explanation = { "need = " + Int(o.nRaidDays) + " days * " + PerDayFormula(t.dKbps) +
+                               " = " + Num(dNeed) + " GB",
+                           "one device = " + Int(o.nRaidDiskSel + 1) + " TB * " + Int(nDisks) +
+                               " data disks (" + SiteValues::kRaidDevices[o.nRaidDevice] + " " +
+                               SiteValues::kRaidLevels[o.nRaidLevel] + ", " + Int(o.nRaidBays) +
+                               " bays) * 0.9 * 1024 = " + Num(dCapacity) + " GB",
+                           t.dKbps == 0.0 ? std::string("no bit rate: no device needed")
+                                          : "devices = " + Num(dNeed) + " / " + Num(dCapacity) +
+                                                ", rounded up unless exact = " + Int(nDevices) };
     return answer;
 }

@@ -13,8 +13,8 @@ enum class AnswerKind { DiskRequirement, RecordingDays, RaidCapacity, DeviceCoun
 
 struct PlanAnswer {
     AnswerKind kind = AnswerKind::DiskRequirement;
-    std::wstring strCaption;  // the window's caption, looked up
-    std::wstring strValue;    // the window's value text
+    std::wstring strCaption; // the window's caption, looked up
+    std::wstring strValue;   // the window's value text
     // Named numbers and words of the answer, in a fixed order, for the
     // machine-readable formats; values are already printed.
     std::vector<std::pair<std::string, std::string>> fields;

@@ -48,8 +48,7 @@ private:
 
 } // namespace
 
-bool CPlanApp::ReadWholeFile(const std::string& strPath, std::string& strText,
-                             std::string& strWhy)
+bool CPlanApp::ReadWholeFile(const std::string& strPath, std::string& strText, std::string& strWhy)
 {
     FILE* file = strPath == "-" ? stdin : std::fopen(strPath.c_str(), "rb");
     if (!file) {

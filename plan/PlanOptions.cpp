@@ -4,16 +4,14 @@
 #include "calculator/engine/RaidTables.h"
 #include "plan/SiteValues.h"
 
-
 namespace {
 
-const int kMaxDays = 3650;  // the days spinners' range
+const int kMaxDays = 3650; // the days spinners' range
 const int kMaxDayHours = 24;
 const int kMaxPercent = 100;
-const int kCustomGBDigits = 5;  // what the custom capacity edit keeps per unit
+const int kCustomGBDigits = 5; // what the custom capacity edit keeps per unit
 const int kCustomTBDigits = 3;
-const int kRaidDiskSizes = 16;  // "1 TB" to "16 TB"
-
+const int kRaidDiskSizes = 16; // "1 TB" to "16 TB"
 
 const char kUsage[] =
     "usage: tallix-plan [options] SITE.csv\n"
@@ -79,9 +77,9 @@ bool StripSuffix(std::string& strText, const std::string& strSuffix)
 {
     const std::string strUpper = Upper(strText);
     const std::string strUpperSuffix = Upper(strSuffix);
-    if (strUpper.size() >= strUpperSuffix.size()
-        && strUpper.compare(strUpper.size() - strUpperSuffix.size(), std::string::npos,
-                            strUpperSuffix) == 0) {
+    if (strUpper.size() >= strUpperSuffix.size() &&
+        strUpper.compare(strUpper.size() - strUpperSuffix.size(), std::string::npos,
+                         strUpperSuffix) == 0) {
         strText.resize(strText.size() - strSuffix.size());
         return true;
     }
@@ -128,7 +126,7 @@ public:
             o.bCustomCapacity = true;
             o.bCustomInTB = bInTB;
             o.strCustomCapacity = strNumber;
-            o.nCapacityIndex = kCapacityItemCount;  // the combo's "Customize"
+            o.nCapacityIndex = kCapacityItemCount; // the combo's "Customize"
             return true;
         }
         for (int i = 0; i < kCapacityItemCount; ++i) {
@@ -198,8 +196,8 @@ public:
             for (std::size_t i = 0; pOffered && i < pOffered->size(); ++i)
                 strOffered += (i ? ", " : "") + std::to_string((*pOffered)[i]);
             return Fail("--raid", strValue,
-                        std::string("a bay count that ") + SiteValues::kRaidDevices[nDevice] + " offers with "
-                            + SiteValues::kRaidLevels[nLevel] + ": " + strOffered);
+                        std::string("a bay count that ") + SiteValues::kRaidDevices[nDevice] +
+                            " offers with " + SiteValues::kRaidLevels[nLevel] + ": " + strOffered);
         }
         std::string strDisk = parts[3];
         StripSuffix(strDisk, "TB");
@@ -250,8 +248,8 @@ PlanOptionsResult CPlanOptionParser::Parse(const std::vector<std::string>& args)
             if (strArg == "--" && i + 1 < args.size())
                 strArg = args[++i];
             if (!o.strSiteFile.empty()) {
-                result.strError = "more than one site file: \"" + o.strSiteFile + "\" and \""
-                    + strArg + "\"";
+                result.strError =
+                    "more than one site file: \"" + o.strSiteFile + "\" and \"" + strArg + "\"";
                 return result;
             }
             o.strSiteFile = strArg;
@@ -260,8 +258,8 @@ PlanOptionsResult CPlanOptionParser::Parse(const std::vector<std::string>& args)
         std::string strName = strArg;
         std::string strValue;
         const std::size_t nEquals = strArg.find('=');
-        static const char* const kWithValue[] = { "--days", "--capacity", "--percent", "--plan",
-                                                  "--raid", "--raid-days", "--config", "--area",
+        static const char* const kWithValue[] = { "--days", "--capacity",  "--percent", "--plan",
+                                                  "--raid", "--raid-days", "--config",  "--area",
                                                   "--lang", "--format" };
         bool bKnown = false;
         if (nEquals != std::string::npos) {
@@ -290,8 +288,8 @@ PlanOptionsResult CPlanOptionParser::Parse(const std::vector<std::string>& args)
             o.bAskRecording = true;
         } else if (strName == "--percent") {
             int nPercent = 0;
-            bOk = SiteValues::ParseWhole(strValue, 0, kMaxPercent, 3, nPercent)
-                || reader.Fail(strName, strValue, "a whole number 0-100");
+            bOk = SiteValues::ParseWhole(strValue, 0, kMaxPercent, 3, nPercent) ||
+                  reader.Fail(strName, strValue, "a whole number 0-100");
             o.nPercent = static_cast<unsigned>(nPercent);
             o.bPercentGiven = true;
             o.bAskRecording = true;
@@ -311,7 +309,8 @@ PlanOptionsResult CPlanOptionParser::Parse(const std::vector<std::string>& args)
             o.nArea = strValue == "1" ? 1 : 0;
         } else if (strName == "--lang") {
             const std::string strLang = SiteValues::Lower(strValue);
-            bOk = (strLang == "en" || strLang == "cn") || reader.Fail(strName, strValue, "en or cn");
+            bOk =
+                (strLang == "en" || strLang == "cn") || reader.Fail(strName, strValue, "en or cn");
             o.nLanguage = strLang == "cn" ? 1 : 0;
         } else if (strName == "--format") {
             const std::string strFormat = SiteValues::Lower(strValue);

@@ -10,10 +10,10 @@
 enum class PlanFormat { Text, Json, Csv };
 
 struct PlanOptions {
-    std::string strSiteFile;  // "-" reads the standard input
+    std::string strSiteFile; // "-" reads the standard input
     std::string strConfigFile;
     int nArea = 0;
-    int nLanguage = 0;        // 0 English, 1 Chinese, as the dictionaries are chosen
+    int nLanguage = 0; // 0 English, 1 Chinese, as the dictionaries are chosen
     PlanFormat format = PlanFormat::Text;
     bool bExplain = false;
     bool bHelp = false;
@@ -30,12 +30,12 @@ struct PlanOptions {
     // Recording days: the capacity combo, or a typed capacity.
     int nCapacityIndex = 0;
     bool bCustomCapacity = false;
-    std::string strCustomCapacity;  // digits as typed into the edit
+    std::string strCustomCapacity; // digits as typed into the edit
     bool bCustomInTB = false;
     bool bPercentGiven = false;
     unsigned nPercent = 90;
     bool bWeeklyPlan = false;
-    int anDayHours[kPlanDayCount] = { 24, 24, 24, 24, 24, 24, 24 };  // Sunday first
+    int anDayHours[kPlanDayCount] = { 24, 24, 24, 24, 24, 24, 24 }; // Sunday first
     // RAID: device type, level, bay list position, disk combo position.
     int nRaidDevice = 0;
     int nRaidLevel = 0;
@@ -48,7 +48,7 @@ struct PlanOptions {
 struct PlanOptionsResult {
     bool bOk = false;
     PlanOptions options;
-    std::string strError;  // one line, without the program's name
+    std::string strError; // one line, without the program's name
 };
 
 class CPlanOptionParser {

@@ -116,8 +116,8 @@ std::string CPlanReport::TotalsLine(const SiteTotals& totals)
         if (c >= 'A' && c <= 'Z')
             c = static_cast<char>(c - 'A' + 'a');
     }
-    return Utf8(LangText(L"Total")) + " " + Utf8(FormatChannelCount(totals.nChannels)) + " "
-        + strChannels + ", " + Utf8(FormatTotalBitrate(totals.dKbps));
+    return Utf8(LangText(L"Total")) + " " + Utf8(FormatChannelCount(totals.nChannels)) + " " +
+           strChannels + ", " + Utf8(FormatTotalBitrate(totals.dKbps));
 }
 
 std::string CPlanReport::AnswerLine(const PlanAnswer& answer)
@@ -128,9 +128,12 @@ std::string CPlanReport::AnswerLine(const PlanAnswer& answer)
 std::string CPlanReport::Format() const
 {
     switch (m_options.format) {
-    case PlanFormat::Json: return Json();
-    case PlanFormat::Csv: return Csv();
-    case PlanFormat::Text: break;
+    case PlanFormat::Json:
+        return Json();
+    case PlanFormat::Csv:
+        return Csv();
+    case PlanFormat::Text:
+        break;
     }
     return Text();
 }
@@ -142,23 +145,24 @@ std::vector<std::string> CPlanReport::RowExplanations() const
     for (std::size_t i = 0; i < figures.size() && i < m_rows.size(); ++i) {
         const SiteRow& row = m_rows[i];
         const RowFigure& figure = figures[i];
-        std::string strLine = "line " + std::to_string(figure.nLine) + ": "
-            + std::to_string(figure.nChannels) + " x ";
+        std::string strLine = "line " + std::to_string(figure.nLine) + ": " +
+                              std::to_string(figure.nChannels) + " x ";
         if (figure.bTyped) {
-            strLine += "typed rate \"" + figure.strText + "\" Kbps, over the estimate "
-                + Num(figure.dEstimate) + ",";
+            strLine += "typed rate \"" + figure.strText + "\" Kbps, over the estimate " +
+                       Num(figure.dEstimate) + ",";
         } else {
             const int nComp = row.nCompression;
             const int nScene = RowSceneEnabled(nComp) ? row.nScene : 0;
-            const double dReference = m_options.nArea == 1
-                ? g_dReferenceKbpsArea1[row.nResolution]
-                : g_dReferenceKbpsOther[row.nResolution];
-            strLine += std::string(SiteValues::CompressionName(nComp)) + (nScene ? " scene " + std::to_string(nScene) : "")
-                + " " + SiteValues::Narrow(g_szResolutionEntries[row.nResolution - 1]) + " at "
-                + std::to_string(figure.nFrameRate) + " fps: " + Num(dReference) + " * "
-                + std::to_string(figure.nFrameRate) + " / 30 * "
-                + Num(g_dCompressionFactor[nComp][nScene]) + (row.bAudio ? " + 60 (audio)" : "")
-                + " = " + Num(figure.dEstimate) + ", shown \"" + figure.strText + "\" Kbps";
+            const double dReference = m_options.nArea == 1 ? g_dReferenceKbpsArea1[row.nResolution]
+                                                           : g_dReferenceKbpsOther[row.nResolution];
+            strLine += std::string(SiteValues::CompressionName(nComp)) +
+                       (nScene ? " scene " + std::to_string(nScene) : "") + " " +
+                       SiteValues::Narrow(g_szResolutionEntries[row.nResolution - 1]) + " at " +
+                       std::to_string(figure.nFrameRate) + " fps: " + Num(dReference) + " * " +
+                       std::to_string(figure.nFrameRate) + " / 30 * " +
+                       Num(g_dCompressionFactor[nComp][nScene]) +
+                       (row.bAudio ? " + 60 (audio)" : "") + " = " + Num(figure.dEstimate) +
+                       ", shown \"" + figure.strText + "\" Kbps";
         }
         strLine += " per channel -> " + Num(figure.dRowKbps) + " kbps";
         if (!figure.bCounted)
@@ -171,10 +175,12 @@ std::vector<std::string> CPlanReport::RowExplanations() const
 std::string CPlanReport::TotalsExplanation() const
 {
     const SiteTotals& totals = m_figures.Totals();
-    return "total = " + Num(totals.dKbps) + " kbps, shown in kbps, or divided by 1024 to Mbps and "
-        "Gbps while above 10000: " + Utf8(FormatTotalBitrate(totals.dKbps)) + "; "
-        + std::to_string(totals.nChannels) + " channels; area " + std::to_string(m_options.nArea)
-        + " (reference rates of VGA and D1: " + (m_options.nArea == 1 ? "512" : "1024") + " Kbps)";
+    return "total = " + Num(totals.dKbps) +
+           " kbps, shown in kbps, or divided by 1024 to Mbps and "
+           "Gbps while above 10000: " +
+           Utf8(FormatTotalBitrate(totals.dKbps)) + "; " + std::to_string(totals.nChannels) +
+           " channels; area " + std::to_string(m_options.nArea) +
+           " (reference rates of VGA and D1: " + (m_options.nArea == 1 ? "512" : "1024") + " Kbps)";
 }
 
 std::string CPlanReport::Text() const
@@ -199,28 +205,30 @@ std::string CPlanReport::Text() const
 std::string CPlanReport::Json() const
 {
     const SiteTotals& totals = m_figures.Totals();
-    std::string strOut = "{\n  \"totals\": {\"channels\": " + std::to_string(totals.nChannels)
-        + ", \"kbps\": " + Num(totals.dKbps) + ", \"text\": "
-        + JsonString(Utf8(FormatTotalBitrate(totals.dKbps))) + ", \"line\": "
-        + JsonString(TotalsLine(totals)) + "},\n  \"rows\": [";
+    std::string strOut = "{\n  \"totals\": {\"channels\": " + std::to_string(totals.nChannels) +
+                         ", \"kbps\": " + Num(totals.dKbps) +
+                         ", \"text\": " + JsonString(Utf8(FormatTotalBitrate(totals.dKbps))) +
+                         ", \"line\": " + JsonString(TotalsLine(totals)) + "},\n  \"rows\": [";
     const std::vector<RowFigure>& figures = m_figures.Rows();
     for (std::size_t i = 0; i < figures.size(); ++i) {
         const RowFigure& f = figures[i];
-        strOut += std::string(i ? "," : "") + "\n    {\"line\": " + std::to_string(f.nLine)
-            + ", \"channels\": " + std::to_string(f.nChannels) + ", \"fps\": "
-            + std::to_string(f.nFrameRate) + ", \"estimate\": " + Num(f.dEstimate)
-            + ", \"typed\": " + (f.bTyped ? "true" : "false") + ", \"text\": "
-            + JsonString(f.strText) + ", \"kbps\": " + Num(f.dRowKbps) + ", \"counted\": "
-            + (f.bCounted ? "true" : "false") + "}";
+        strOut += std::string(i ? "," : "") + "\n    {\"line\": " + std::to_string(f.nLine) +
+                  ", \"channels\": " + std::to_string(f.nChannels) +
+                  ", \"fps\": " + std::to_string(f.nFrameRate) +
+                  ", \"estimate\": " + Num(f.dEstimate) +
+                  ", \"typed\": " + (f.bTyped ? "true" : "false") +
+                  ", \"text\": " + JsonString(f.strText) + ", \"kbps\": " + Num(f.dRowKbps) +
+                  ", \"counted\": " + (f.bCounted ? "true" : "false") + "}";
     }
     strOut += figures.empty() ? "],\n" : "\n  ],\n";
     strOut += "  \"answers\": [";
     const std::vector<PlanAnswer>& answers = m_answers.Answers();
     for (std::size_t i = 0; i < answers.size(); ++i) {
         const PlanAnswer& a = answers[i];
-        strOut += std::string(i ? "," : "") + "\n    {\"question\": "
-            + JsonString(CPlanAnswers::KindName(a.kind)) + ", \"caption\": "
-            + JsonString(Utf8(a.strCaption)) + ", \"text\": " + JsonString(Utf8(a.strValue));
+        strOut += std::string(i ? "," : "") +
+                  "\n    {\"question\": " + JsonString(CPlanAnswers::KindName(a.kind)) +
+                  ", \"caption\": " + JsonString(Utf8(a.strCaption)) +
+                  ", \"text\": " + JsonString(Utf8(a.strValue));
         for (const auto& field : a.fields)
             strOut += ", " + JsonString(field.first) + ": " + JsonValue(field.second);
         if (m_options.bExplain) {
@@ -249,7 +257,8 @@ std::string CPlanReport::Csv() const
     std::string strOut = "question,field,value\n";
     auto add = [&strOut](const std::string& strQuestion, const std::string& strField,
                          const std::string& strValue) {
-        strOut += CsvField(strQuestion) + "," + CsvField(strField) + "," + CsvField(strValue) + "\n";
+        strOut +=
+            CsvField(strQuestion) + "," + CsvField(strField) + "," + CsvField(strValue) + "\n";
     };
     add("totals", "channels", std::to_string(totals.nChannels));
     add("totals", "kbps", Num(totals.dKbps));

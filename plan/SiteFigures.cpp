@@ -7,7 +7,7 @@ namespace {
 
 std::wstring Wide(const std::string& strText)
 {
-    return std::wstring(strText.begin(), strText.end());  // digits only
+    return std::wstring(strText.begin(), strText.end()); // digits only
 }
 
 std::string Narrow(const std::wstring& strText)
@@ -44,8 +44,8 @@ CSiteFigures::CSiteFigures(const std::vector<SiteRow>& rows, int nArea)
                                               figure.nFrameRate, row.bAudio, nArea);
         figure.bTyped = row.bTypedBitrate;
         const std::wstring strText = row.bTypedBitrate
-            ? RowTypedBitrateText(Wide(row.strTypedBitrate))
-            : RowBitrateText(figure.dEstimate);
+                                         ? RowTypedBitrateText(Wide(row.strTypedBitrate))
+                                         : RowBitrateText(figure.dEstimate);
         figure.strText = Narrow(strText);
         const double dBefore = totals.totalKbps;
         const unsigned int nBefore = totals.channels;

@@ -11,12 +11,12 @@
 struct RowFigure {
     int nLine = 0;
     int nChannels = 0;
-    int nFrameRate = 0;      // frames per second after the row's own limits
-    double dEstimate = 0.0;  // before rounding
+    int nFrameRate = 0;     // frames per second after the row's own limits
+    double dEstimate = 0.0; // before rounding
     bool bTyped = false;
-    std::string strText;     // column 7: the rounded estimate or the typed rate
-    double dRowKbps = 0.0;   // channels times the text's rate
-    bool bCounted = false;   // a text of exactly "0" adds no channels
+    std::string strText;   // column 7: the rounded estimate or the typed rate
+    double dRowKbps = 0.0; // channels times the text's rate
+    bool bCounted = false; // a text of exactly "0" adds no channels
 };
 
 struct SiteTotals {

@@ -4,18 +4,18 @@
 
 #include <cstddef>
 
-const char* const CSiteFileReader::kColumnNames[] = { "channels", "compression", "scene",
-                                                      "resolution", "fps", "audio", "bitrate" };
+const char* const CSiteFileReader::kColumnNames[] = { "channels",   "compression", "scene",
+                                                      "resolution", "fps",         "audio",
+                                                      "bitrate" };
 
 namespace {
 
-enum Column { ColChannels, ColCompression, ColScene, ColResolution, ColFps, ColAudio,
-              ColBitrate };
-const int kRequiredColumns = ColBitrate;  // all but the bitrate
+enum Column { ColChannels, ColCompression, ColScene, ColResolution, ColFps, ColAudio, ColBitrate };
+const int kRequiredColumns = ColBitrate; // all but the bitrate
 
 struct Field {
     std::string strText;
-    int nColumn;  // where the text starts, 1-based characters
+    int nColumn; // where the text starts, 1-based characters
 };
 
 // Characters before byte nPos of a UTF-8 line: continuation bytes don't count.
@@ -29,7 +29,10 @@ int CharColumn(const std::string& strLine, std::size_t nPos)
     return nColumn;
 }
 
-bool IsBlank(char c) { return c == ' ' || c == '\t'; }
+bool IsBlank(char c)
+{
+    return c == ' ' || c == '\t';
+}
 
 class CLineSplitter {
 public:
@@ -89,7 +92,7 @@ public:
                 ++i;
                 continue;
             }
-            return true;  // end of line or a comment
+            return true; // end of line or a comment
         }
     }
 
@@ -149,8 +152,8 @@ public:
             }
             if (nFound < 0)
                 return Fail(nLine, fields[f].nColumn,
-                            "unknown column " + Quoted(fields[f].strText) + ": expected "
-                                + ColumnList());
+                            "unknown column " + Quoted(fields[f].strText) + ": expected " +
+                                ColumnList());
             if (m_aColumnAt[nFound] >= 0)
                 return Fail(nLine, fields[f].nColumn,
                             "column " + Quoted(fields[f].strText) + " named twice");
@@ -159,8 +162,8 @@ public:
         for (int c = 0; c < kRequiredColumns; ++c) {
             if (m_aColumnAt[c] < 0)
                 return Fail(nLine, 1,
-                            std::string("the header lacks the column \"")
-                                + CSiteFileReader::kColumnNames[c] + "\": expected " + ColumnList());
+                            std::string("the header lacks the column \"") +
+                                CSiteFileReader::kColumnNames[c] + "\": expected " + ColumnList());
         }
         m_nFieldCount = fields.size();
         return true;
@@ -169,12 +172,11 @@ public:
     bool Row(int nLine, const std::string& strLine, const std::vector<Field>& fields)
     {
         if (fields.size() != m_nFieldCount) {
-            const int nColumn = fields.size() > m_nFieldCount
-                ? fields[m_nFieldCount].nColumn
-                : CharColumn(strLine, strLine.size());
+            const int nColumn = fields.size() > m_nFieldCount ? fields[m_nFieldCount].nColumn
+                                                              : CharColumn(strLine, strLine.size());
             return Fail(nLine, nColumn,
-                        "expected " + std::to_string(m_nFieldCount) + " fields as in the header, found "
-                            + std::to_string(fields.size()));
+                        "expected " + std::to_string(m_nFieldCount) +
+                            " fields as in the header, found " + std::to_string(fields.size()));
         }
         if (static_cast<int>(m_result.rows.size()) >= CSiteFileReader::kMaxRows)
             return Fail(nLine, 1,
@@ -188,8 +190,8 @@ public:
             std::string strExpected;
             if (!Value(c, field.strText, row, strExpected))
                 return Fail(nLine, field.nColumn,
-                            std::string("bad ") + CSiteFileReader::kColumnNames[c] + " "
-                                + Quoted(field.strText) + ": expected " + strExpected);
+                            std::string("bad ") + CSiteFileReader::kColumnNames[c] + " " +
+                                Quoted(field.strText) + ": expected " + strExpected);
         }
         m_result.rows.push_back(row);
         return true;

@@ -8,15 +8,15 @@
 #include <vector>
 
 struct SiteFileError {
-    int nLine = 0;    // 1-based
-    int nColumn = 0;  // 1-based, in characters
+    int nLine = 0;   // 1-based
+    int nColumn = 0; // 1-based, in characters
     std::string strMessage;
 };
 
 struct SiteFileResult {
     bool bOk = false;
     std::vector<SiteRow> rows;
-    SiteFileError error;  // the first fault, when bOk is false
+    SiteFileError error; // the first fault, when bOk is false
 };
 
 class CSiteFileReader {

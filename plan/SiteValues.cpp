@@ -35,7 +35,10 @@ std::string JoinAlternatives(const std::string* pItems, int nCount)
     return strList;
 }
 
-std::string NameText(const char* pszText) { return pszText ? pszText : ""; }
+std::string NameText(const char* pszText)
+{
+    return pszText ? pszText : "";
+}
 std::string NameText(const wchar_t* pszText);
 
 // Index from 1 of strText in the names, or 0.
@@ -50,7 +53,10 @@ int FindName(const std::string& strText, const Name* pNames, int nCount)
     return 0;
 }
 
-std::string NameText(const wchar_t* pszText) { return Narrow(pszText); }
+std::string NameText(const wchar_t* pszText)
+{
+    return Narrow(pszText);
+}
 
 } // namespace
 

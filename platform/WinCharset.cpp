@@ -192,8 +192,7 @@ std::string LocaleCharset()
     return charset;
 }
 
-bool CharsetToWide(const std::string& charset, const char* src, std::size_t len,
-                   std::wstring& out)
+bool CharsetToWide(const std::string& charset, const char* src, std::size_t len, std::wstring& out)
 {
     out.clear();
     if (isUtf8(charset)) {

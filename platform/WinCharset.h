@@ -21,8 +21,7 @@ std::string LocaleCharset();
 
 // Conversion from the named charset; undecodable bytes become U+FFFD.
 // False when the charset is unknown.
-bool CharsetToWide(const std::string& charset, const char* src, std::size_t len,
-                   std::wstring& out);
+bool CharsetToWide(const std::string& charset, const char* src, std::size_t len, std::wstring& out);
 
 // Conversion to the named charset; unmappable characters become defaultChar
 // and set *usedDefault. False when the charset is unknown.

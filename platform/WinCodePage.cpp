@@ -1,12 +1,12 @@
 #include "platform/WinCodePage.h"
 
+#include "platform/WinCharset.h"
+
 #include <algorithm>
 #include <climits>
 #include <cstring>
 #include <cwchar>
 #include <string>
-
-#include "platform/WinCharset.h"
 
 namespace {
 
@@ -33,29 +33,27 @@ bool badArguments(const void* src, int srcLen, const void* dst, int dstLen)
 
 } // namespace
 
-int MultiByteToWideChar(UINT codePage, DWORD /*flags*/, const char* src, int srcLen,
-                        wchar_t* dst, int dstLen)
+int MultiByteToWideChar(UINT codePage, DWORD /*flags*/, const char* src, int srcLen, wchar_t* dst,
+                        int dstLen)
 {
     if (badArguments(src, srcLen, dst, dstLen))
         return 0;
-    const std::size_t len =
-        srcLen == -1 ? std::strlen(src) + 1 : static_cast<std::size_t>(srcLen);
+    const std::size_t len = srcLen == -1 ? std::strlen(src) + 1 : static_cast<std::size_t>(srcLen);
     std::wstring wide;
     if (codePage == CP_UTF8)
         wide = platform::Utf8ToWide(src, len);
-    else if (codePage != CP_ACP || !platform::CharsetToWide(platform::LocaleCharset(), src, len, wide))
+    else if (codePage != CP_ACP ||
+             !platform::CharsetToWide(platform::LocaleCharset(), src, len, wide))
         return 0;
     return deliver(wide, dst, dstLen);
 }
 
-int WideCharToMultiByte(UINT codePage, DWORD /*flags*/, const wchar_t* src, int srcLen,
-                        char* dst, int dstLen, const char* defaultChar,
-                        BOOL* usedDefaultChar)
+int WideCharToMultiByte(UINT codePage, DWORD /*flags*/, const wchar_t* src, int srcLen, char* dst,
+                        int dstLen, const char* defaultChar, BOOL* usedDefaultChar)
 {
     if (badArguments(src, srcLen, dst, dstLen))
         return 0;
-    const std::size_t len =
-        srcLen == -1 ? std::wcslen(src) + 1 : static_cast<std::size_t>(srcLen);
+    const std::size_t len = srcLen == -1 ? std::wcslen(src) + 1 : static_cast<std::size_t>(srcLen);
     std::string narrow;
     if (codePage == CP_UTF8) {
         // UTF-8 has no default character; Windows refuses one.

@@ -7,8 +7,7 @@
 
 #include "platform/WinTypes.h"
 
-int MultiByteToWideChar(UINT codePage, DWORD flags, const char* src, int srcLen,
-                        wchar_t* dst, int dstLen);
-int WideCharToMultiByte(UINT codePage, DWORD flags, const wchar_t* src, int srcLen,
-                        char* dst, int dstLen, const char* defaultChar,
-                        BOOL* usedDefaultChar);
+int MultiByteToWideChar(UINT codePage, DWORD flags, const char* src, int srcLen, wchar_t* dst,
+                        int dstLen);
+int WideCharToMultiByte(UINT codePage, DWORD flags, const wchar_t* src, int srcLen, char* dst,
+                        int dstLen, const char* defaultChar, BOOL* usedDefaultChar);

@@ -17,8 +17,8 @@ int MulDiv(int number, int numerator, int denominator)
         (magnitude(number) * magnitude(numerator) + divisor / 2) / divisor;
     const std::int64_t result =
         negative ? -static_cast<std::int64_t>(quotient) : static_cast<std::int64_t>(quotient);
-    if (result > std::numeric_limits<std::int32_t>::max()
-        || result < std::numeric_limits<std::int32_t>::min())
+    if (result > std::numeric_limits<std::int32_t>::max() ||
+        result < std::numeric_limits<std::int32_t>::min())
         return -1;
     return static_cast<int>(result);
 }

@@ -69,8 +69,7 @@ BOOL EqualRect(const tagRECT* a, const tagRECT* b)
 {
     if (!a || !b)
         return FALSE;
-    return a->left == b->left && a->top == b->top && a->right == b->right
-        && a->bottom == b->bottom;
+    return a->left == b->left && a->top == b->top && a->right == b->right && a->bottom == b->bottom;
 }
 
 BOOL PtInRect(const tagRECT* rc, tagPOINT pt)
@@ -94,8 +93,8 @@ BOOL IntersectRect(tagRECT* dst, const tagRECT* a, const tagRECT* b)
 {
     if (!dst || !a || !b)
         return FALSE;
-    if (IsRectEmpty(a) || IsRectEmpty(b) || a->left >= b->right || b->left >= a->right
-        || a->top >= b->bottom || b->top >= a->bottom)
+    if (IsRectEmpty(a) || IsRectEmpty(b) || a->left >= b->right || b->left >= a->right ||
+        a->top >= b->bottom || b->top >= a->bottom)
         return emptyResult(dst);
     // dst may alias a or b: the whole result is made before it is stored.
     *dst = tagRECT{ std::max(a->left, b->left), std::max(a->top, b->top),

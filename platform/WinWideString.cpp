@@ -23,9 +23,9 @@ std::int32_t parseInt32(const wchar_t* text)
     bool negative = false;
     if (*text == L'-' || *text == L'+')
         negative = *text++ == L'-';
-    const std::int64_t limit = negative
-        ? -static_cast<std::int64_t>(std::numeric_limits<std::int32_t>::min())
-        : std::numeric_limits<std::int32_t>::max();
+    const std::int64_t limit =
+        negative ? -static_cast<std::int64_t>(std::numeric_limits<std::int32_t>::min())
+                 : std::numeric_limits<std::int32_t>::max();
     std::int64_t value = 0;
     bool overflow = false;
     for (; *text >= L'0' && *text <= L'9'; ++text) {

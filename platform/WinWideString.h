@@ -1,9 +1,9 @@
 #pragma once
 // The C runtime's wide-string helpers that the program uses.
 
-#include <cstddef>
-
 #include "platform/WinTypes.h"
+
+#include <cstddef>
 
 int _wtoi(const wchar_t* text);
 long _wtol(const wchar_t* text);

@@ -4,7 +4,6 @@
 #include "vexplay/vexplay.h"
 
 #include <boost/make_shared.hpp>
-
 #include <chrono>
 
 using Lock = std::unique_lock<std::recursive_timed_mutex>;
@@ -13,8 +12,7 @@ std::mutex CPlayManagerUILogic::s_lastMutex;
 std::wstring CPlayManagerUILogic::s_strLastFile;
 void* CPlayManagerUILogic::s_hLastWnd = nullptr;
 
-CPlayManagerUILogic::CPlayManagerUILogic()
-    : m_nPort(NO_PORT), m_nStopping(0)
+CPlayManagerUILogic::CPlayManagerUILogic() : m_nPort(NO_PORT), m_nStopping(0)
 {
 }
 

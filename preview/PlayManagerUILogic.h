@@ -2,9 +2,8 @@
 // Plays a sample clip into a window through vexplay and starts it over each
 // time it ends.
 
-#include <boost/shared_ptr.hpp>
-
 #include <atomic>
+#include <boost/shared_ptr.hpp>
 #include <mutex>
 #include <string>
 

@@ -1,16 +1,16 @@
 #include "preview/ScenePlayWinDlgEventImp.h"
 
-#include "sf/DialogStyle.h"
-#include "sf/ImageVideoWindowStyle.h"
 #include "language/LangString.h"
 #include "preview/PlayManagerUILogic.h"
-#include "sf/qt/SFApplication.h"
+#include "sf/DialogStyle.h"
+#include "sf/ImageVideoWindowStyle.h"
 #include "sf/SFButton.h"
 #include "sf/SFDialog.h"
 #include "sf/SFFactory.h"
 #include "sf/SFVideoWindow.h"
 #include "sf/SFVideoWindowFactory.h"
 #include "sf/dialogs/SFSkinRecords.h"
+#include "sf/qt/SFApplication.h"
 
 namespace {
 
@@ -128,7 +128,7 @@ int CScenePlayWinDlgEventImp::Dlg_OnInitDialog(bool bCreateOnly)
         tagRECT rcVideo = rcDlg;
         rcVideo.top = kVideoTop;
         m_pVideoWindow->Create(L"VideoWindow", rcVideo, m_pDlg ? m_pDlg->GetUIWnd() : nullptr,
-                                kVideoWindowId);
+                               kVideoWindowId);
         m_pVideoWindow->EableSubWinExchange(0);
         m_pVideoWindow->SetSubWinCtrlsVisible(0);
         m_pVideoWindow->SetDefaultLayout(DEFAULT_LAYOUT_1);

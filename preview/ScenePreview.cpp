@@ -1,11 +1,11 @@
 #include "preview/ScenePreview.h"
 
-#include "sf/DialogStyle.h"
 #include "language/LangString.h"
+#include "preview/ScenePlayWinDlgEventImp.h"
+#include "sf/DialogStyle.h"
 #include "sf/SFDialog.h"
 #include "sf/SFFactory.h"
 #include "sf/qt/SFQtConvert.h"
-#include "preview/ScenePlayWinDlgEventImp.h"
 
 #include <new>
 

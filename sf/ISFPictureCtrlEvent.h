@@ -5,7 +5,9 @@
 class ISFPictureCtrlEvent {
 public:
     virtual ~ISFPictureCtrlEvent() {}
-    virtual void PICTRL_OnLButtonDown(unsigned int /*id*/, unsigned int /*flags*/, tagPOINT /*pt*/) {}
+    virtual void PICTRL_OnLButtonDown(unsigned int /*id*/, unsigned int /*flags*/, tagPOINT /*pt*/)
+    {
+    }
     virtual void PICTRL_OnLButtonUp(unsigned int /*id*/, unsigned int /*flags*/, tagPOINT /*pt*/) {}
     virtual void PICTRL_OnMouseMove(unsigned int /*id*/, unsigned int /*flags*/, tagPOINT /*pt*/) {}
 };

@@ -1,8 +1,8 @@
 #pragma once
 // Events of a view, the container a page is built on.
 
-#include "sf/SFEventBase.h"
 #include "platform/WinTypes.h"
+#include "sf/SFEventBase.h"
 
 class ISFViewEvent : public CSFEventBase {
 public:

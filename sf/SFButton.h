@@ -1,11 +1,11 @@
 #pragma once
 // Abstract image button; CSFQTButton realises it.
 
+#include "platform/WinTypes.h"
 #include "sf/ISFButtonEvent.h"
 #include "sf/ImageButtonStyle.h"
-#include "sf/SFControlTypes.h"
 #include "sf/SFControl.h"
-#include "platform/WinTypes.h"
+#include "sf/SFControlTypes.h"
 
 class CSFButton : public CSFControl<ISFButtonEvent, ImageButtonStyle> {
 public:

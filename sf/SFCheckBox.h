@@ -1,9 +1,9 @@
 #pragma once
 // Abstract check box; the application creates none.
 
+#include "platform/WinTypes.h"
 #include "sf/ISFCheckBoxEvent.h"
 #include "sf/SFToggle.h"
-#include "platform/WinTypes.h"
 
 class CSFCheckBox : public CSFToggle<ISFCheckBoxEvent> {
 public:

@@ -1,17 +1,20 @@
 #pragma once
 // Abstract combo box; CSFQTComboBox realises it.
 
+#include "platform/WinTypes.h"
 #include "sf/ISFComboBoxEvent.h"
 #include "sf/ImageComboBoxStyle.h"
 #include "sf/SFControlBase.h"
-#include "platform/WinTypes.h"
 
 class CSFComboBox : public CSFControlBase<ISFComboBoxEvent> {
 public:
     explicit CSFComboBox(ISFComboBoxEvent* handler = nullptr) : CSFControlBase(handler) {}
 
     virtual int Create(unsigned long /*style*/, const tagRECT& /*rect*/, void* /*parent*/,
-                       unsigned int /*id*/) { return 0; }
+                       unsigned int /*id*/)
+    {
+        return 0;
+    }
     virtual void SetCursor() {}
     virtual int SetSkin(ImageComboBoxStyle* /*style*/) { return 0; }
     virtual void ShowWindow(int /*show*/) {}

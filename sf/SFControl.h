@@ -5,8 +5,8 @@
 // style record SetSkin takes; without one SetSkin takes no argument and has
 // nothing to fail on.
 
-#include "sf/SFControlBase.h"
 #include "platform/WinTypes.h"
+#include "sf/SFControlBase.h"
 
 template <class Handler, class... Skin>
 class CSFControl : public CSFControlBase<Handler> {
@@ -14,7 +14,10 @@ public:
     explicit CSFControl(Handler* handler = nullptr) : CSFControlBase<Handler>(handler) {}
 
     virtual int Create(const wchar_t* /*text*/, unsigned long /*style*/, const tagRECT& /*rect*/,
-                       void* /*parent*/, unsigned int /*id*/) { return 0; }
+                       void* /*parent*/, unsigned int /*id*/)
+    {
+        return 0;
+    }
     virtual void SetCursor() {}
     virtual int SetSkin(Skin*... /*style*/) { return sizeof...(Skin) == 0 ? 1 : 0; }
     virtual void ShowWindow(int /*show*/) {}

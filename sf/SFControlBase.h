@@ -7,7 +7,9 @@ template <class Handler>
 class CSFControlBase {
 public:
     explicit CSFControlBase(Handler* handler = nullptr)
-        : m_pHandler(handler), m_nID(static_cast<unsigned int>(-1)) {}
+        : m_pHandler(handler), m_nID(static_cast<unsigned int>(-1))
+    {
+    }
     CSFControlBase(const CSFControlBase&) = default;
     CSFControlBase& operator=(const CSFControlBase&) = default;
     virtual ~CSFControlBase() {}

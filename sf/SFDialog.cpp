@@ -1,7 +1,6 @@
 #include "sf/SFDialog.h"
 
-CSFDialog::CSFDialog(ISFDialogEvent* handler)
-    : m_pHandler(handler)
+CSFDialog::CSFDialog(ISFDialogEvent* handler) : m_pHandler(handler)
 {
     if (m_pHandler)
         m_pHandler->ResetMessageIDs();

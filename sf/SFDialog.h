@@ -1,9 +1,9 @@
 #pragma once
 // Abstract skinned window; CSFQTDialog and CSFQTMainWindow realise it.
 
+#include "platform/WinTypes.h"
 #include "sf/DialogStyle.h"
 #include "sf/ISFDialogEvent.h"
-#include "platform/WinTypes.h"
 
 class CSFDialog {
 public:
@@ -32,10 +32,16 @@ public:
     virtual int IsDlgZoomed() { return 0; }
     virtual void SetDrawBackGround(int /*draw*/) {}
     virtual int DlgIsWindow() { return 0; }
-    virtual int SetDlgWindowPos(void* /*insertAfter*/, int /*x*/, int /*y*/, int /*cx*/,
-                                int /*cy*/, unsigned int /*flags*/) { return 0; }
+    virtual int SetDlgWindowPos(void* /*insertAfter*/, int /*x*/, int /*y*/, int /*cx*/, int /*cy*/,
+                                unsigned int /*flags*/)
+    {
+        return 0;
+    }
     virtual int ModifyDlgStyleEx(unsigned long /*remove*/, unsigned long /*add*/,
-                                 unsigned int /*flags*/) { return 0; }
+                                 unsigned int /*flags*/)
+    {
+        return 0;
+    }
     virtual void SetWindowTextW(const wchar_t* /*text*/) {}
     virtual void SetDlgIcon(unsigned int /*resourceId*/) {}
     virtual void SetDlgIcon(const wchar_t* /*file*/) {}

@@ -1,9 +1,9 @@
 #pragma once
 // Abstract single-line edit; CSFQTEditCtrl realises it.
 
+#include "platform/WinTypes.h"
 #include "sf/ISFEditCtrlEvent.h"
 #include "sf/SFControlBase.h"
-#include "platform/WinTypes.h"
 
 #include <cstddef>
 #include <string>
@@ -14,7 +14,10 @@ public:
     explicit CSFEditCtrl(ISFEditCtrlEvent* handler = nullptr) : CSFControlBase(handler) {}
 
     virtual int Create(unsigned long /*style*/, const tagRECT& /*rect*/, void* /*parent*/,
-                       unsigned int /*id*/, bool /*password*/) { return 0; }
+                       unsigned int /*id*/, bool /*password*/)
+    {
+        return 0;
+    }
     virtual void SetCursor() {}
     virtual int SetSkin(const wchar_t* /*image*/) { return 0; }
     virtual void ShowWindow(int /*show*/) {}

@@ -1,13 +1,11 @@
 #include "sf/SFEventBase.h"
 
-CSFEventBase::CSFEventBase()
-    : m_pMessageIDs(nullptr)
+CSFEventBase::CSFEventBase() : m_pMessageIDs(nullptr)
 {
 }
 
 // The id list belongs to the object that built it.
-CSFEventBase::CSFEventBase(const CSFEventBase&)
-    : m_pMessageIDs(nullptr)
+CSFEventBase::CSFEventBase(const CSFEventBase&) : m_pMessageIDs(nullptr)
 {
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 // Abstract table with controls in its cells; CSFQTListCtrl realises it.
 
+#include "platform/WinTypes.h"
 #include "sf/ISFListCtrlEvent.h"
 #include "sf/ImageButtonStyle.h"
 #include "sf/ImageComboBoxStyle.h"
@@ -8,7 +9,6 @@
 #include "sf/ImageProgressCtrlStyle.h"
 #include "sf/ImageRadioBox.h"
 #include "sf/ListCtrlStyle.h"
-#include "platform/WinTypes.h"
 
 #include <set>
 #include <string>
@@ -16,13 +16,18 @@
 class CSFListCtrl {
 public:
     explicit CSFListCtrl(ISFListCtrlEvent* handler = nullptr)
-        : m_pHandler(handler), m_nID(static_cast<unsigned int>(-1)) {}
+        : m_pHandler(handler), m_nID(static_cast<unsigned int>(-1))
+    {
+    }
     CSFListCtrl(const CSFListCtrl&) = default;
     CSFListCtrl& operator=(const CSFListCtrl&) = default;
     virtual ~CSFListCtrl() {}
 
     virtual int Create(unsigned long /*style*/, const tagRECT& /*rect*/, void* /*parent*/,
-                       unsigned int /*id*/, bool) { return 0; }
+                       unsigned int /*id*/, bool)
+    {
+        return 0;
+    }
     virtual void SetCursor() {}
     virtual int SetSkin(ListCtrlStyle* /*style*/) { return 0; }
     virtual void ShowWindow(int /*show*/) {}
@@ -43,8 +48,11 @@ public:
     virtual int SetItemData(int /*row*/, unsigned long /*data*/) { return 0; }
     virtual int SetItemText(int /*row*/, int /*col*/, const wchar_t* /*text*/) { return 0; }
     virtual int SubItemHitTest(void* /*info*/) { return 0; }
-    virtual int InsertColumn(int /*col*/, const wchar_t* /*heading*/, int /*format*/,
-                             int /*width*/, int /*subItem*/) { return 0; }
+    virtual int InsertColumn(int /*col*/, const wchar_t* /*heading*/, int /*format*/, int /*width*/,
+                             int /*subItem*/)
+    {
+        return 0;
+    }
     virtual int InsertColumnCheck(int /*col*/, ImageRadioBox /*style*/) { return 0; }
     virtual int InsertItem(int /*row*/, const wchar_t* /*text*/) { return 0; }
     virtual unsigned long SetExtendedStyle(unsigned long /*style*/) { return 0; }
@@ -55,11 +63,15 @@ public:
     virtual int SetColumnWidth(int /*col*/, int /*width*/) { return 0; }
     virtual void SetColumnTextAlign(int /*col*/, unsigned int /*align*/) {}
     virtual void SetItemWidget(int /*row*/, int /*col*/, const wchar_t*, const wchar_t*,
-                               ImageButtonStyle, ImageButtonStyle) {}
+                               ImageButtonStyle, ImageButtonStyle)
+    {
+    }
     virtual void SetItemNumSpiner(int /*row*/, int /*col*/, int, int, int, ImageNumSpinerStyle) {}
     virtual void SetItemComboBox(int /*type*/, int /*row*/, int /*col*/, int /*width*/,
                                  ImageComboBoxStyle /*style*/, const wchar_t* /*placeholder*/,
-                                 const wchar_t* /*extra*/, const std::wstring* /*items*/, ...) {}
+                                 const wchar_t* /*extra*/, const std::wstring* /*items*/, ...)
+    {
+    }
     virtual void SetItemProgress(int /*row*/, int /*col*/, unsigned int, ImageProgressCtrlStyle) {}
     virtual void SetItemCheckWidget(int /*row*/, int /*col*/, ImageRadioBox /*style*/) {}
     virtual void SetItemIcon(int /*row*/, int /*col*/, const wchar_t* /*file*/) {}
@@ -84,8 +96,10 @@ public:
     virtual void SetItemEditCtrl(int /*row*/, int /*col*/, int) {}
     virtual void SetRowColor(int) {}
     virtual void EmitHeadClickFun(int /*section*/) {}
-    virtual void AddOperateBtn(int /*row*/, int /*col*/, const wchar_t*, int, ImageButtonStyle,
-                               int, int) {}
+    virtual void AddOperateBtn(int /*row*/, int /*col*/, const wchar_t*, int, ImageButtonStyle, int,
+                               int)
+    {
+    }
     virtual void SetBtnEnable(int, bool) {}
     virtual void SetAllCheck(int /*check*/) {}
     virtual void SetItemShow(int /*row*/, int /*col*/, unsigned int /*id*/, bool /*show*/) {}

@@ -5,7 +5,7 @@
 
 constexpr unsigned int SF_LIST_ID_KIND_MASK = 0xF0000000u;
 constexpr unsigned int SF_LIST_ID_BUTTON_COMBO = 0x30000000u; // combo and the button beside it
-constexpr unsigned int SF_LIST_ID_FIRST_COMBO = 0x40000000u; // combo, and the row's edit
+constexpr unsigned int SF_LIST_ID_FIRST_COMBO = 0x40000000u;  // combo, and the row's edit
 constexpr unsigned int SF_LIST_ID_SECOND_COMBO = 0x50000000u;
 constexpr unsigned int SF_LIST_ID_EDIT_COMBO = 0x60000000u;
 

@@ -2,8 +2,8 @@
 // What the list control hands its parent window with a notification, and
 // the record of SubItemHitTest.
 
-#include "sf/SFMessageMap.h"
 #include "platform/WinTypes.h"
+#include "sf/SFMessageMap.h"
 
 // Notification codes of the list control (message 78).
 constexpr unsigned int SF_LIST_NOTIFY_CLICK = 2;

@@ -120,40 +120,46 @@ void Invoke(CSFEventBase* handler, SF_WPARAM wParam, SF_LPARAM lParam)
 } // namespace sf_detail
 
 // Declares the two map operations inside a handler class. Leaves access public.
-#define SF_DECLARE_MSGMAP()                                  \
-public:                                                      \
-    const SF_MSGMAP* GetSFMessageMap() const override;       \
+#define SF_DECLARE_MSGMAP()                            \
+public:                                                \
+    const SF_MSGMAP* GetSFMessageMap() const override; \
     int* GetThisMessageIDs() override;
 
-#define SF_BEGIN_MSGMAP(theClass)                                                     \
-    int* theClass::GetThisMessageIDs()                                                \
-    {                                                                                 \
-        return SFCollectMessageIDs(theClass::GetSFMessageMap(), m_pMessageIDs);       \
-    }                                                                                 \
-    const SF_MSGMAP* theClass::GetSFMessageMap() const                                \
-    {                                                                                 \
-        typedef theClass ThisClass;                                                   \
-        static_assert(std::is_base_of<CSFEventBase, ThisClass>::value,                \
-                      "a message map belongs to a window handler");                  \
+#define SF_BEGIN_MSGMAP(theClass)                                               \
+    int* theClass::GetThisMessageIDs()                                          \
+    {                                                                           \
+        return SFCollectMessageIDs(theClass::GetSFMessageMap(), m_pMessageIDs); \
+    }                                                                           \
+    const SF_MSGMAP* theClass::GetSFMessageMap() const                          \
+    {                                                                           \
+        typedef theClass ThisClass;                                             \
+        static_assert(std::is_base_of<CSFEventBase, ThisClass>::value,          \
+                      "a message map belongs to a window handler");             \
         static const SF_MSGMAP_ENTRY s_entries[] = {
 
 // One entry: message, code, first and last id (inclusive), signature, member.
-#define SF_MAP_ENTRY(message, code, firstId, lastId, sig, member)                     \
-    { (message), (code), (firstId), (lastId), (sig), 0,                               \
+#define SF_MAP_ENTRY(message, code, firstId, lastId, sig, member) \
+    { (message),                                                  \
+      (code),                                                     \
+      (firstId),                                                  \
+      (lastId),                                                   \
+      (sig),                                                      \
+      0,                                                          \
       &sf_detail::Invoke<ThisClass, (sig), &ThisClass::member> },
 
-#define SF_ON_COMMAND(id, member) \
-    SF_MAP_ENTRY(SF_MSG_COMMAND, 0, (id), (id), SF_SIG_VOID, member)
+#define SF_ON_COMMAND(id, member) SF_MAP_ENTRY(SF_MSG_COMMAND, 0, (id), (id), SF_SIG_VOID, member)
 #define SF_ON_COMMAND_RANGE(firstId, lastId, member) \
     SF_MAP_ENTRY(SF_MSG_COMMAND, 0, (firstId), (lastId), SF_SIG_VOID, member)
 #define SF_ON_NOTIFY(code, id, member) \
     SF_MAP_ENTRY(SF_MSG_NOTIFY, (code), (id), (id), SF_SIG_NOTIFY, member)
-#define SF_ON_UIMSG(id, member) \
-    SF_MAP_ENTRY(SF_MSG_UI, SF_MSG_UI, (id), (id), SF_SIG_UIMSG, member)
+#define SF_ON_UIMSG(id, member) SF_MAP_ENTRY(SF_MSG_UI, SF_MSG_UI, (id), (id), SF_SIG_UIMSG, member)
 
-#define SF_END_MSGMAP()                                                               \
-            { 0, 0, 0, 0, SF_SIG_END, 0, nullptr }                                    \
-        };                                                                            \
-        static const SF_MSGMAP s_map = { s_entries };                                 \
-        return &s_map;                                                                \
+#define SF_END_MSGMAP()                           \
+    {                                             \
+        0, 0, 0, 0, SF_SIG_END, 0, nullptr        \
+    }                                             \
+    }                                             \
+    ;                                             \
+    static const SF_MSGMAP s_map = { s_entries }; \
+    return &s_map;                                \
     }

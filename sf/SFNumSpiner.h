@@ -1,10 +1,10 @@
 #pragma once
 // Abstract number spinner; CSFQTNumSpiner realises it.
 
+#include "platform/WinTypes.h"
 #include "sf/ISFNumSpinerEvent.h"
 #include "sf/ImageNumSpinerStyle.h"
 #include "sf/SFControlBase.h"
-#include "platform/WinTypes.h"
 
 class CSFNumSpiner : public CSFControlBase<ISFNumSpinerEvent> {
 public:
@@ -12,7 +12,10 @@ public:
 
     // No style argument: the spinner is neither shown nor hidden by Create.
     virtual int Create(const wchar_t* /*text*/, const tagRECT& /*rect*/, void* /*parent*/,
-                       unsigned int /*id*/) { return 0; }
+                       unsigned int /*id*/)
+    {
+        return 0;
+    }
     virtual void SetRange(int /*min*/, int /*max*/) {}
     virtual void GetRange(int& /*min*/, int& /*max*/) {}
     virtual void SetStep(int /*step*/) {}

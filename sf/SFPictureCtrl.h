@@ -1,9 +1,9 @@
 #pragma once
 // Abstract picture with optional centred text; CSFQTPictureCtrl realises it.
 
+#include "platform/WinTypes.h"
 #include "sf/ISFPictureCtrlEvent.h"
 #include "sf/SFControl.h"
-#include "platform/WinTypes.h"
 
 class CSFPictureCtrl : public CSFControl<ISFPictureCtrlEvent> {
 public:

@@ -1,9 +1,9 @@
 #pragma once
 // Abstract image toggle; CSFQTRadioBox realises it.
 
+#include "platform/WinTypes.h"
 #include "sf/ISFRadioBoxEvent.h"
 #include "sf/SFToggle.h"
-#include "platform/WinTypes.h"
 
 class CSFRadioBox : public CSFToggle<ISFRadioBoxEvent> {
 public:

@@ -1,8 +1,8 @@
 #include "sf/SFRect.h"
 
-#include "sf/SFWrapMath.h"
 #include "platform/WinMath.h"
 #include "platform/WinRect.h"
+#include "sf/SFWrapMath.h"
 
 #include <cstdint>
 #include <utility>

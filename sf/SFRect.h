@@ -2,9 +2,9 @@
 // A rectangle with the operations and the results of the Win32 functions:
 // right and bottom lie one past the last pixel.
 
+#include "platform/WinTypes.h"
 #include "sf/SFPoint.h"
 #include "sf/SFSize.h"
-#include "platform/WinTypes.h"
 
 class CSFRect : public tagRECT {
 public:

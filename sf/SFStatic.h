@@ -1,9 +1,9 @@
 #pragma once
 // Abstract label; CSFQTStatic realises it.
 
+#include "platform/WinTypes.h"
 #include "sf/ISFStaticEvent.h"
 #include "sf/SFControl.h"
-#include "platform/WinTypes.h"
 
 class CSFStatic : public CSFControl<ISFStaticEvent> {
 public:

@@ -40,8 +40,8 @@ public:
         int count = m_rows * m_cols;
         for (const Block& k : m_blocks)
             count -= k.rows * k.cols - 1;
-        std::string out = Format("%d/%d/%d/%d:%d/", m_rows, m_cols, count, kSpaceWidth,
-                                 kSpaceHeight);
+        std::string out =
+            Format("%d/%d/%d/%d:%d/", m_rows, m_cols, count, kSpaceWidth, kSpaceHeight);
         out += Separators();
         out += '/';
         out += Rectangles();
@@ -49,8 +49,7 @@ public:
     }
 
 private:
-    static std::string Format(const char* format, int a, int b, int c, int d, int e = 0,
-                              int f = 0)
+    static std::string Format(const char* format, int a, int b, int c, int d, int e = 0, int f = 0)
     {
         char buffer[96];
         std::snprintf(buffer, sizeof buffer, format, a, b, c, d, e, f);
@@ -70,8 +69,7 @@ private:
             const int flag = Joined(i, j, i + 1, j) ? 0 : 1;
             // A minus sign would split the entry: very thin rows start at 0.
             Append(out, Format("%d:%d:%d:%d:%d:%d", i * 256 + j, flag, j * m_w,
-                               std::max(0, (i + 1) * m_h - 5), (j + 1) * m_w,
-                               (i + 1) * m_h + 5));
+                               std::max(0, (i + 1) * m_h - 5), (j + 1) * m_w, (i + 1) * m_h + 5));
         }
     }
 
@@ -81,7 +79,8 @@ private:
         for (int k = m_cols - 2; k >= 0; --k) {
             const int flag = Joined(r, k, r, k + 1) ? 0 : 1;
             Append(out, Format("%d:%d:%d:%d:%d:%d", 65536 + r * 256 + k, flag,
-                               std::max(0, (k + 1) * m_w - 5), r * m_h, (k + 1) * m_w + 5, (r + 1) * m_h));
+                               std::max(0, (k + 1) * m_w - 5), r * m_h, (k + 1) * m_w + 5,
+                               (r + 1) * m_h));
         }
     }
 
@@ -119,8 +118,8 @@ private:
                 rows = k.rows;
                 cols = k.cols;
             }
-            Append(out, Format("%d:%d:%d:%d", c * m_w, r * m_h, (c + cols) * m_w,
-                               (r + rows) * m_h));
+            Append(out,
+                   Format("%d:%d:%d:%d", c * m_w, r * m_h, (c + cols) * m_w, (r + rows) * m_h));
         }
         return out;
     }

@@ -2,10 +2,10 @@
 // Abstract video window: an area split into sub windows by a layout text;
 // CSFQTVideoWindow realises it.
 
+#include "platform/WinTypes.h"
 #include "sf/ISFVideoWindowEvent.h"
 #include "sf/ImageVideoWindowStyle.h"
 #include "sf/SFControlBase.h"
-#include "platform/WinTypes.h"
 
 #include <string>
 
@@ -14,16 +14,16 @@ constexpr int SF_VIDEOWINDOW_MAX_GRID = 64;
 
 // The ready layouts of GetDefaultLayout.
 enum DEFAULT_LAYOUT {
-    DEFAULT_LAYOUT_1 = 0,       // one window
-    DEFAULT_LAYOUT_4 = 1,       // 2 by 2
-    DEFAULT_LAYOUT_1_5 = 2,     // 3 by 3, top left 2 by 2 joined
-    DEFAULT_LAYOUT_1_7 = 3,     // 4 by 4, top left 3 by 3 joined
-    DEFAULT_LAYOUT_9 = 4,       // 3 by 3
-    DEFAULT_LAYOUT_1_12 = 5,    // 4 by 4, middle 2 by 2 joined
-    DEFAULT_LAYOUT_16 = 6,      // 4 by 4
-    DEFAULT_LAYOUT_2_18 = 7,    // 6 by 6, two 3 by 3 across the top
-    DEFAULT_LAYOUT_25 = 8,      // 5 by 5
-    DEFAULT_LAYOUT_36 = 9       // 6 by 6
+    DEFAULT_LAYOUT_1 = 0,    // one window
+    DEFAULT_LAYOUT_4 = 1,    // 2 by 2
+    DEFAULT_LAYOUT_1_5 = 2,  // 3 by 3, top left 2 by 2 joined
+    DEFAULT_LAYOUT_1_7 = 3,  // 4 by 4, top left 3 by 3 joined
+    DEFAULT_LAYOUT_9 = 4,    // 3 by 3
+    DEFAULT_LAYOUT_1_12 = 5, // 4 by 4, middle 2 by 2 joined
+    DEFAULT_LAYOUT_16 = 6,   // 4 by 4
+    DEFAULT_LAYOUT_2_18 = 7, // 6 by 6, two 3 by 3 across the top
+    DEFAULT_LAYOUT_25 = 8,   // 5 by 5
+    DEFAULT_LAYOUT_36 = 9    // 6 by 6
 };
 
 enum VIDEOWINDOWMODE {
@@ -33,25 +33,31 @@ enum VIDEOWINDOWMODE {
 };
 
 // Pixel data handed to RenderSubWin; only RGB32 is drawn.
-enum RENDER_DATA_TYPE {
-    RENDER_DATA_RGB32 = 0,
-    RENDER_DATA_YV12 = 1
-};
+enum RENDER_DATA_TYPE { RENDER_DATA_RGB32 = 0, RENDER_DATA_YV12 = 1 };
 
 class CSFVideoWindow : public CSFControlBase<ISFVideoWindowEvent> {
 public:
     explicit CSFVideoWindow(ISFVideoWindowEvent* handler = nullptr) : CSFControlBase(handler) {}
 
     virtual int Create(const wchar_t* /*text*/, const tagRECT& /*rect*/, void* /*parent*/,
-                       unsigned int /*id*/) { return 0; }
+                       unsigned int /*id*/)
+    {
+        return 0;
+    }
     virtual int SetSkin(ImageVideoWindowStyle* /*style*/) { return 0; }
     virtual void ShowWindow(int /*show*/) {}
     virtual void MoveWindow(tagRECT* /*rect*/) {}
     virtual void MoveWindow(int /*x*/, int /*y*/, int /*w*/, int /*h*/) {}
     virtual void* GetLayoutOverView(int /*w*/, int /*h*/, unsigned long /*back*/,
-                                    unsigned long /*fore*/) { return nullptr; }
+                                    unsigned long /*fore*/)
+    {
+        return nullptr;
+    }
     virtual int GetLayoutOverView(void* /*target*/, int /*w*/, int /*h*/, unsigned long /*back*/,
-                                  unsigned long /*fore*/) { return 0; }
+                                  unsigned long /*fore*/)
+    {
+        return 0;
+    }
     virtual VIDEOWINDOWMODE GetVideoWindowMode() { return VIDEOWINDOWMODE_NORMAL; }
     virtual void SetRows(int /*rows*/) {}
     virtual void SetColumns(int /*columns*/) {}
@@ -87,7 +93,10 @@ public:
     virtual void SetUpdatesEnabled(int /*index*/, bool /*enable*/) {}
     virtual void SetFocus(int /*focus*/) {}
     virtual int RenderSubWin(int /*index*/, unsigned char* /*data*/, RENDER_DATA_TYPE /*type*/,
-                             int /*width*/, int /*height*/) { return 0; }
+                             int /*width*/, int /*height*/)
+    {
+        return 0;
+    }
 
     // Text of a ready layout in the space 400 by 300; null above 9.
     static const char* GetDefaultLayout(DEFAULT_LAYOUT layout);

@@ -1,10 +1,10 @@
 #pragma once
 // Abstract view, the container of a page; CSFQTView realises it.
 
+#include "platform/WinTypes.h"
 #include "sf/ISFViewEvent.h"
 #include "sf/SFControlBase.h"
 #include "sf/SFControlTypes.h"
-#include "platform/WinTypes.h"
 
 class CSFView : public CSFControlBase<ISFViewEvent> {
 public:
@@ -12,7 +12,10 @@ public:
 
     virtual int Create(const wchar_t* /*className*/, const wchar_t* /*title*/,
                        unsigned long /*style*/, const tagRECT& /*rect*/, void* /*parent*/,
-                       unsigned int /*id*/) { return 0; }
+                       unsigned int /*id*/)
+    {
+        return 0;
+    }
     virtual void ShowWindow(int /*show*/) {}
     virtual void SetBackground(const wchar_t* /*image*/) {}
     virtual void MoveWindow(tagRECT* /*rect*/) {}

@@ -1,7 +1,7 @@
 #include "shell/AboutDlgEventImp.h"
 
-#include "sf/DialogStyle.h"
 #include "language/LangString.h"
+#include "sf/DialogStyle.h"
 #include "sf/SFButton.h"
 #include "sf/SFDialog.h"
 #include "sf/SFFactory.h"
@@ -92,9 +92,8 @@ int CAboutDlgEventImp::Dlg_OnInitDialog(bool bCreateOnly)
     // The third line would hold the web site, which is not shown.
     rcText.OffsetRect(0, rcText.Height() + kGap);
 
-    m_pBtnClose = SFCreateCloseButton(
-        this, tagRECT{ rcDlg.Width() - 22, 2, rcDlg.Width() + 2, 26 }, GetUIWnd(),
-        kCloseButtonId);
+    m_pBtnClose = SFCreateCloseButton(this, tagRECT{ rcDlg.Width() - 22, 2, rcDlg.Width() + 2, 26 },
+                                      GetUIWnd(), kCloseButtonId);
 
     if (m_pDlg) {
         CSFRect rc = rcDlg;

@@ -5,7 +5,6 @@
 #include <QFile>
 #include <QTimer>
 #include <QWidget>
-
 #include <cstdio>
 #include <ctime>
 
@@ -31,8 +30,7 @@ void FirstPaintReport::WatchIfAsked(QWidget* window)
         new FirstPaintReport(window);
 }
 
-FirstPaintReport::FirstPaintReport(QWidget* window)
-    : QObject(window)
+FirstPaintReport::FirstPaintReport(QWidget* window) : QObject(window)
 {
     window->installEventFilter(this);
 }

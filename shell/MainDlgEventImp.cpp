@@ -2,11 +2,11 @@
 
 #include "sf/DialogStyle.h"
 #include "sf/SFControlTypes.h"
-#include "sf/dialogs/SFSkinRecords.h"
 #include "sf/SFFactory.h"
 #include "sf/SFView.h"
-#include "streams/TallixEventImp.h"
+#include "sf/dialogs/SFSkinRecords.h"
 #include "shell/ToolBarEventImp.h"
+#include "streams/TallixEventImp.h"
 
 namespace {
 

@@ -1,10 +1,7 @@
 #include "shell/ToolBarEventImp.h"
 
-#include "shell/AboutDlgEventImp.h"
-#include "sf/DialogStyle.h"
 #include "language/LangString.h"
-#include "shell/MainDlgEventImp.h"
-#include "sf/qt/SFApplication.h"
+#include "sf/DialogStyle.h"
 #include "sf/SFButton.h"
 #include "sf/SFControlTypes.h"
 #include "sf/SFDialog.h"
@@ -12,7 +9,10 @@
 #include "sf/SFPictureCtrl.h"
 #include "sf/dialogs/SFReleaseControls.h"
 #include "sf/dialogs/SFSkinRecords.h"
+#include "sf/qt/SFApplication.h"
 #include "sf/qt/SFQtConvert.h"
+#include "shell/AboutDlgEventImp.h"
+#include "shell/MainDlgEventImp.h"
 
 #include <string>
 
@@ -33,15 +33,21 @@ struct ToolButton {
 // In order of creation, left to right; each button starts 3 pixels after the
 // one before it.
 const ToolButton kToolButtons[] = {
-    { CToolBarEventImp::IdAbout, { 1012, 8, 1036, 32 },
+    { CToolBarEventImp::IdAbout,
+      { 1012, 8, 1036, 32 },
       { L"about-normal.png", L"about-hover.png", L"about-pressed.png", L"about-disabled.png" },
-      L"About", false },
-    { CToolBarEventImp::IdMin, { 1039, 8, 1066, 32 },
+      L"About",
+      false },
+    { CToolBarEventImp::IdMin,
+      { 1039, 8, 1066, 32 },
       { L"min-normal.png", L"min-hover.png", L"min-pressed.png", L"min-disabled.png" },
-      L"Min", true },
-    { CToolBarEventImp::IdClose, { 1069, 8, 1096, 32 },
+      L"Min",
+      true },
+    { CToolBarEventImp::IdClose,
+      { 1069, 8, 1096, 32 },
       { L"close-normal.png", L"close-hover.png", L"close-pressed.png", L"close-disabled.png" },
-      L"Close", false },
+      L"Close",
+      false },
 };
 
 } // namespace
@@ -120,9 +126,11 @@ void CToolBarEventImp::OnBtnAbout()
     const std::wstring strCopyright = L"CopyrightString";
     const std::wstring strWebSite = L"WebSite";
     // Four lookups: the dictionary's five result buffers keep all of them alive.
-    CAboutDlgEventImp* handler = new CAboutDlgEventImp(
-        GetLangString(strAbout.c_str(), 0), L"AboutPic.png", GetLangString(strVersion.c_str(), 0),
-        GetLangString(strCopyright.c_str(), 0), GetLangString(strWebSite.c_str(), 0));
+    CAboutDlgEventImp* handler =
+        new CAboutDlgEventImp(GetLangString(strAbout.c_str(), 0), L"AboutPic.png",
+                              GetLangString(strVersion.c_str(), 0),
+                              GetLangString(strCopyright.c_str(), 0),
+                              GetLangString(strWebSite.c_str(), 0));
     handler->GetStyle(style);
     CSFDialog* dlg =
         SFCreateDialog(handler, SFWidgetFromHandle(m_pMain ? m_pMain->GetUIWnd() : nullptr), 0);

@@ -50,6 +50,6 @@ ImageRadioBox AudioToggleStyle()
 
 ImageButtonStyle DeleteButtonStyle()
 {
-    return SFImageButtonStyle(L"list_clear_nor.png", L"list_clear_hover.png",
-                              L"list_clear_nor.png", L"list_clear_dis.png");
+    return SFImageButtonStyle(L"list_clear_nor.png", L"list_clear_hover.png", L"list_clear_nor.png",
+                              L"list_clear_dis.png");
 }

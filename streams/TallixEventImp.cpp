@@ -1,19 +1,19 @@
 #include "streams/TallixEventImp.h"
 
 #include "calculator/CalculatorBottom.h"
-#include "streams/ChannelRowStyles.h"
-#include "streams/rows/ChannelRowBinder.h"
 #include "language/LangString.h"
+#include "preview/ScenePreview.h"
 #include "sf/SFButton.h"
 #include "sf/SFFactory.h"
 #include "sf/SFListCtrl.h"
 #include "sf/SFListNotify.h"
-#include "sf/qt/SFQtConvert.h"
 #include "sf/SFStatic.h"
 #include "sf/SFView.h"
 #include "sf/dialogs/SFControlNames.h"
 #include "sf/dialogs/SFReleaseControls.h"
-#include "preview/ScenePreview.h"
+#include "sf/qt/SFQtConvert.h"
+#include "streams/ChannelRowStyles.h"
+#include "streams/rows/ChannelRowBinder.h"
 
 #include <QWidget>
 #include <string>
@@ -54,12 +54,11 @@ constexpr int kEditorListMargin = 20;
 constexpr int kEditorListTop[2] = { 121, 201 };
 constexpr int kEditorListHeight[2] = { 300, 220 };
 
-const wchar_t* const kColumnKeys[kColumnCount] = { L"NO.",         L"Channels",
-                                                   L"Compression", L"Environment",
-                                                   L"Resolution",  L"FrameRate",
-                                                   L"Audio",       L"Bitrate/Ch(Kbps)",
-                                                   L"Operation" };
-const double kColumnFactors[kColumnCount] = { 0.05, 0.085, 0.135, 0.185, 0.145,
+const wchar_t* const kColumnKeys[kColumnCount] = {
+    L"NO.",       L"Channels", L"Compression",      L"Environment", L"Resolution",
+    L"FrameRate", L"Audio",    L"Bitrate/Ch(Kbps)", L"Operation"
+};
+const double kColumnFactors[kColumnCount] = { 0.05,  0.085, 0.135, 0.185, 0.145,
                                               0.185, 0.07,  0.14,  0.12 };
 const wchar_t* const kEnvironmentKeys[4] = { L"Preview", L"Scene 1", L"Scene 2", L"Scene 3" };
 
@@ -146,10 +145,10 @@ int CTallixEventImp::OnCreate()
 {
     const int width = HostWidth();
 
-    static const LabelledButton kAddStreaming{ L"Add Streaming",  { 50, 15, 145, 41 },
+    static const LabelledButton kAddStreaming{ L"Add Streaming",    { 50, 15, 145, 41 },
                                                { 24, 10, 155, 46 }, kAddButtonId,
                                                &AddButtonStyle,     "label_add" };
-    static const LabelledButton kClearAll{ L"Clear All",          { 195, 15, 295, 41 },
+    static const LabelledButton kClearAll{ L"Clear All",         { 195, 15, 295, 41 },
                                            { 170, 10, 270, 46 }, kClearButtonId,
                                            &ClearButtonStyle,    "label_clear" };
     CreateLabelledButton(kAddStreaming, m_pLabelAdd, m_pBtnAdd);
@@ -162,8 +161,8 @@ int CTallixEventImp::OnCreate()
     if (m_pList) {
         ListCtrlStyle style = ChannelListStyle();
         m_pList->SetSkin(&style);
-        m_pList->Create(kChildStyle, tagRECT{ kSideInset, kListTop, width - kSideInset,
-                                              kCalculatorTop },
+        m_pList->Create(kChildStyle,
+                        tagRECT{ kSideInset, kListTop, width - kSideInset, kCalculatorTop },
                         GetUIWnd(), kListId, true);
         m_pList->ShowWindow(1);
         m_pList->SetExtendedStyle(kListExtendedStyle);

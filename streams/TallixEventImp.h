@@ -9,7 +9,6 @@
 #include "sf/ISFListCtrlEvent.h"
 #include "sf/ISFRadioBoxEvent.h"
 #include "sf/ISFViewEvent.h"
-
 #include "streams/engine/StreamInfo.h"
 
 #include <map>
@@ -74,8 +73,7 @@ private:
     // Where and how a button above the table and its word label stand.
     struct LabelledButton;
     // The label laid over its image button.
-    void CreateLabelledButton(const LabelledButton& place, CSFStatic*& label,
-                              CSFButton*& button);
+    void CreateLabelledButton(const LabelledButton& place, CSFStatic*& label, CSFButton*& button);
     // Column 0 reads 1, 2, 3 ... again.
     void NumberRows();
 

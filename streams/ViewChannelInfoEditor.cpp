@@ -57,15 +57,15 @@ constexpr int kOkTop = 44;
 
 constexpr int kMaxChannels = 256;
 
-const wchar_t* const kRowKeys[CViewChannelInfoEditor::StreamCount] = {
-    L"Main Stream:", L"Sub1 Stream:", L"Sub2 Stream:"
-};
-const char* const kRowLabelNames[CViewChannelInfoEditor::StreamCount] = {
-    "label_stream_0", "label_stream_1", "label_stream_2"
-};
-const char* const kUnitLabelNames[CViewChannelInfoEditor::StreamCount] = {
-    "label_unit_0", "label_unit_1", "label_unit_2"
-};
+const wchar_t* const kRowKeys[CViewChannelInfoEditor::StreamCount] = { L"Main Stream:",
+                                                                       L"Sub1 Stream:",
+                                                                       L"Sub2 Stream:" };
+const char* const kRowLabelNames[CViewChannelInfoEditor::StreamCount] = { "label_stream_0",
+                                                                          "label_stream_1",
+                                                                          "label_stream_2" };
+const char* const kUnitLabelNames[CViewChannelInfoEditor::StreamCount] = { "label_unit_0",
+                                                                           "label_unit_1",
+                                                                           "label_unit_2" };
 const wchar_t* const kResolutions[] = { L"1MP", L"1.3MP", L"2MP", L"3MP", L"4MP",
                                         L"5MP", L"6MP",   L"8MP", L"12MP" };
 const wchar_t* const kFrameRates[] = { L"60", L"55", L"50", L"45", L"40", L"35", L"30",
@@ -80,13 +80,14 @@ std::wstring Slice(int y, int width, int height)
 
 ImageComboBoxStyle EditorComboStyle(int width)
 {
-    ImageComboBoxStyle style = SFImageComboBoxStyle(
-        width == kWideCombo ? L"ComboBox_150.png" : L"ComboBox.png",
-        { Slice(0, width, 27), Slice(0, width, 27), Slice(84, width, 28), Slice(28, width, 28),
-          Slice(28, width, 27), Slice(0, width, 27), Slice(28, width, 27) });
-    for (std::wstring* mode : { &style.strNormalMode, &style.strHoverMode,
-                                &style.strPressedUpMode, &style.strPressedDownMode,
-                                &style.strDisabledMode, &style.strSlice6Mode })
+    ImageComboBoxStyle style =
+        SFImageComboBoxStyle(width == kWideCombo ? L"ComboBox_150.png" : L"ComboBox.png",
+                             { Slice(0, width, 27), Slice(0, width, 27), Slice(84, width, 28),
+                               Slice(28, width, 28), Slice(28, width, 27), Slice(0, width, 27),
+                               Slice(28, width, 27) });
+    for (std::wstring* mode :
+         { &style.strNormalMode, &style.strHoverMode, &style.strPressedUpMode,
+           &style.strPressedDownMode, &style.strDisabledMode, &style.strSlice6Mode })
         *mode = L"tile";
     return style;
 }
@@ -110,8 +111,7 @@ CSFComboBox* MakeCombo(CViewChannelInfoEditor* view, int stream, int left, int w
     return combo;
 }
 
-void AddEntries(CSFComboBox* combo, const wchar_t* title, const wchar_t* const* entries,
-                int count)
+void AddEntries(CSFComboBox* combo, const wchar_t* title, const wchar_t* const* entries, int count)
 {
     if (!combo)
         return;
@@ -157,9 +157,9 @@ SF_END_MSGMAP()
 CViewChannelInfoEditor::CViewChannelInfoEditor(CTallixEventImp* owner, bool subStreams)
     : m_nCompression{ 0, 0, 0 }, m_pOwner(owner), m_bSubStreams(subStreams), m_nChannels(1),
       m_nRow(0), m_bEditRow(subStreams), m_pLabelStream{}, m_pComboCompression{},
-      m_pComboResolution{}, m_pComboFrameRate{}, m_pComboAudio{}, m_pEditBitrate{},
-      m_pLabelUnit{}, m_pLabelChannels(nullptr), m_pSpinChannels(nullptr),
-      m_pBtnToggle(nullptr), m_pBtnClear(nullptr), m_pBtnAdd(nullptr), m_pBtnOk(nullptr)
+      m_pComboResolution{}, m_pComboFrameRate{}, m_pComboAudio{}, m_pEditBitrate{}, m_pLabelUnit{},
+      m_pLabelChannels(nullptr), m_pSpinChannels(nullptr), m_pBtnToggle(nullptr),
+      m_pBtnClear(nullptr), m_pBtnAdd(nullptr), m_pBtnOk(nullptr)
 {
 }
 
@@ -250,8 +250,8 @@ void CViewChannelInfoEditor::CreateChannelsControls()
     void* parent = GetUIWnd();
     m_pLabelChannels = SFCreateStatic(nullptr);
     if (m_pLabelChannels) {
-        m_pLabelChannels->Create(GetLangString(L"Channels", 0), kLabelVisible,
-                                 kChannelsLabelRect, parent, kNoId);
+        m_pLabelChannels->Create(GetLangString(L"Channels", 0), kLabelVisible, kChannelsLabelRect,
+                                 parent, kNoId);
         m_pLabelChannels->SetTextBold(1);
         m_pLabelChannels->SetTextSize(kLabelTextSize);
         m_pLabelChannels->SetTextAlignFlag(kAlignRightMiddle);
@@ -276,10 +276,10 @@ void CViewChannelInfoEditor::CreateButtons()
 {
     const int top = m_bSubStreams ? kButtonsTopWithSubs : kButtonsTopWithoutSubs;
     const wchar_t* toggleKey = m_bSubStreams ? L"Disable Sub Stream" : L"Enable Sub Stream";
-    m_pBtnToggle = MakeButton(this, toggleKey, tagRECT{ kToggleLeft, top,
-                                                        kToggleLeft + kToggleWidth,
-                                                        top + kButtonHeight },
-                              IdToggle, kToggleTextColor);
+    m_pBtnToggle =
+        MakeButton(this, toggleKey,
+                   tagRECT{ kToggleLeft, top, kToggleLeft + kToggleWidth, top + kButtonHeight },
+                   IdToggle, kToggleTextColor);
     if (m_pBtnToggle)
         m_pBtnToggle->SetTextAlign(0);
     if (!m_bEditRow)

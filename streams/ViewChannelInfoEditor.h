@@ -2,13 +2,13 @@
 // A form for one channel group: a main stream and up to two sub streams, each
 // with its own rate rule, handed to the channel page as StreamInfo records.
 
-#include "streams/engine/ChannelInfo.h"
 #include "sf/ISFButtonEvent.h"
 #include "sf/ISFCheckBoxEvent.h"
 #include "sf/ISFComboBoxEvent.h"
 #include "sf/ISFEditCtrlEvent.h"
 #include "sf/ISFNumSpinerEvent.h"
 #include "sf/ISFViewEvent.h"
+#include "streams/engine/ChannelInfo.h"
 #include "streams/engine/StreamInfo.h"
 
 #include <map>

@@ -3,15 +3,15 @@
 
 #include "streams/ViewChannelInfoEditor.h"
 
-#include "language/LangString.h"
 #include "calculator/engine/NumericLocaleGuard.h"
+#include "language/LangString.h"
+#include "language/SFStreamConvert.h"
+#include "platform/WinWideString.h"
 #include "sf/SFComboBox.h"
 #include "sf/SFEditCtrl.h"
 #include "sf/SFNumSpiner.h"
 #include "sf/dialogs/SFShowMessage.h"
-#include "language/SFStreamConvert.h"
 #include "streams/TallixEventImp.h"
-#include "platform/WinWideString.h"
 
 #include <cstdio>
 #include <cstdlib>

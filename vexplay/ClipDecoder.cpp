@@ -6,9 +6,8 @@ extern "C" {
 #include <libavutil/avutil.h>
 }
 
-#include <sys/stat.h>
-
 #include <mutex>
+#include <sys/stat.h>
 
 namespace vexplay {
 
@@ -173,8 +172,8 @@ bool ClipDecoder::ReceiveFrame(bool& needInput)
             needInput = true;
             return false;
         }
-        if (m_frame->width <= 0 || m_frame->height <= 0 || m_frame->width > kMaxSide
-            || m_frame->height > kMaxSide || !m_frame->data[0]) {
+        if (m_frame->width <= 0 || m_frame->height <= 0 || m_frame->width > kMaxSide ||
+            m_frame->height > kMaxSide || !m_frame->data[0]) {
             av_frame_unref(m_frame);
             continue;
         }

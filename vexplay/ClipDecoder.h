@@ -57,7 +57,7 @@ private:
     bool m_ended = false;
     bool m_primed = false;
     int m_fruitless = 0;
-    std::atomic<bool> m_abort{false};
+    std::atomic<bool> m_abort{ false };
 };
 
 } // namespace vexplay

@@ -31,13 +31,10 @@ Clock::duration Seconds(double s)
 
 } // namespace
 
-ClipPlayer::ClipPlayer(int port, std::unique_ptr<ClipDecoder> clip, std::shared_ptr<FrameSink> sink, bool paced,
-    EndHandler onEnd)
-    : m_port(port)
-    , m_clip(std::move(clip))
-    , m_sink(std::move(sink))
-    , m_paced(paced)
-    , m_onEnd(std::move(onEnd))
+ClipPlayer::ClipPlayer(int port, std::unique_ptr<ClipDecoder> clip, std::shared_ptr<FrameSink> sink,
+                       bool paced, EndHandler onEnd)
+    : m_port(port), m_clip(std::move(clip)), m_sink(std::move(sink)), m_paced(paced),
+      m_onEnd(std::move(onEnd))
 {
 }
 

@@ -19,8 +19,8 @@ public:
     // Called on the player's thread when the last frame has had its time.
     using EndHandler = std::function<void(ClipPlayer&)>;
 
-    ClipPlayer(int port, std::unique_ptr<ClipDecoder> clip, std::shared_ptr<FrameSink> sink, bool paced,
-        EndHandler onEnd);
+    ClipPlayer(int port, std::unique_ptr<ClipDecoder> clip, std::shared_ptr<FrameSink> sink,
+               bool paced, EndHandler onEnd);
     ~ClipPlayer();
     ClipPlayer(const ClipPlayer&) = delete;
     ClipPlayer& operator=(const ClipPlayer&) = delete;
@@ -55,8 +55,8 @@ private:
     const EndHandler m_onEnd;
 
     std::thread m_thread;
-    std::atomic<bool> m_stop{false};
-    std::atomic<bool> m_finished{false};
+    std::atomic<bool> m_stop{ false };
+    std::atomic<bool> m_finished{ false };
     std::mutex m_waitMutex;
     std::condition_variable m_wake;
 

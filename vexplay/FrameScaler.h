@@ -35,8 +35,8 @@ private:
         int fullRange = -1;
         bool operator==(const Setup& o) const
         {
-            return width == o.width && height == o.height && format == o.format && size == o.size
-                && space == o.space && fullRange == o.fullRange;
+            return width == o.width && height == o.height && format == o.format && size == o.size &&
+                   space == o.space && fullRange == o.fullRange;
         }
     };
 

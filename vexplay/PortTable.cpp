@@ -153,7 +153,8 @@ bool PortTable::GetPort(int* port)
             chosen = i;
     if (chosen < 0) {
         for (int i = 0; i < kPorts; ++i)
-            if (m_slots[i].orphaned && (chosen < 0 || m_slots[i].orphanedAt < m_slots[chosen].orphanedAt))
+            if (m_slots[i].orphaned &&
+                (chosen < 0 || m_slots[i].orphanedAt < m_slots[chosen].orphanedAt))
                 chosen = i;
         if (chosen < 0)
             return false;
@@ -238,7 +239,7 @@ bool PortTable::Play(int port, void* window)
         return false;
     }
     auto player = std::make_shared<ClipPlayer>(port, std::move(slot->clip), sink, slot->paced,
-        [this](ClipPlayer& p) { FileEnded(p); });
+                                               [this](ClipPlayer& p) { FileEnded(p); });
     try {
         player->Start();
     } catch (...) {

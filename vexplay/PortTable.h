@@ -4,7 +4,6 @@
 // slow runs under it.
 
 #include <QWidget>
-
 #include <condition_variable>
 #include <functional>
 #include <map>

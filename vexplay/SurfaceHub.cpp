@@ -20,8 +20,7 @@ constexpr int kIdleBlankMs = 300;
 std::mutex SurfaceHub::s_mutex;
 SurfaceHub* SurfaceHub::s_hub = nullptr;
 
-SurfaceHub::SurfaceHub(QObject* parent)
-    : QObject(parent)
+SurfaceHub::SurfaceHub(QObject* parent) : QObject(parent)
 {
 }
 
@@ -77,12 +76,15 @@ void SurfaceHub::Post(Work work)
     // orders whatever the posting thread wrote before its reads in a way
     // that thread checkers can see through Qt's own queue.
     if (SurfaceHub* hub = s_hub) {
-        QMetaObject::invokeMethod(hub, [hub, work = std::move(work)] {
-            {
-                std::lock_guard<std::mutex> lock(s_mutex);
-            }
-            work(hub);
-        }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            hub,
+            [hub, work = std::move(work)] {
+                {
+                    std::lock_guard<std::mutex> lock(s_mutex);
+                }
+                work(hub);
+            },
+            Qt::QueuedConnection);
     }
 }
 

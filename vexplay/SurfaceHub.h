@@ -5,7 +5,6 @@
 
 #include <QObject>
 #include <QWidget>
-
 #include <memory>
 #include <mutex>
 

@@ -27,7 +27,7 @@ constexpr unsigned kOwnMachine = EM_AARCH64;
 #elif defined(__i386__)
 constexpr unsigned kOwnMachine = EM_386;
 #else
-constexpr unsigned kOwnMachine = EM_NONE;  // not checked
+constexpr unsigned kOwnMachine = EM_NONE; // not checked
 #endif
 
 bool Covers(std::uint64_t size, std::uint64_t offset, std::uint64_t length)
@@ -46,20 +46,21 @@ bool SafeToMap(const std::string& path)
     bool safe = false;
     struct stat st;
     ElfW(Ehdr) header;
-    if (::fstat(fd, &st) == 0 && S_ISREG(st.st_mode)
-        && ::pread(fd, &header, sizeof header, 0) == static_cast<ssize_t>(sizeof header)) {
+    if (::fstat(fd, &st) == 0 && S_ISREG(st.st_mode) &&
+        ::pread(fd, &header, sizeof header, 0) == static_cast<ssize_t>(sizeof header)) {
         const auto size = static_cast<std::uint64_t>(st.st_size);
-        const bool own = std::equal(ELFMAG, ELFMAG + SELFMAG, header.e_ident)
-                      && header.e_ident[EI_CLASS] == (sizeof(void*) == 8 ? ELFCLASS64 : ELFCLASS32)
-                      && header.e_type == ET_DYN
-                      && (kOwnMachine == EM_NONE || header.e_machine == kOwnMachine)
-                      && header.e_phentsize == sizeof(ElfW(Phdr)) && header.e_phnum > 0;
+        const bool own =
+            std::equal(ELFMAG, ELFMAG + SELFMAG, header.e_ident) &&
+            header.e_ident[EI_CLASS] == (sizeof(void*) == 8 ? ELFCLASS64 : ELFCLASS32) &&
+            header.e_type == ET_DYN &&
+            (kOwnMachine == EM_NONE || header.e_machine == kOwnMachine) &&
+            header.e_phentsize == sizeof(ElfW(Phdr)) && header.e_phnum > 0;
         std::vector<ElfW(Phdr)> segments(own ? header.e_phnum : 0);
         const std::uint64_t table = std::uint64_t(header.e_phnum) * sizeof(ElfW(Phdr));
-        safe = own && Covers(size, header.e_phoff, table)
-            && Covers(size, header.e_shoff, std::uint64_t(header.e_shnum) * header.e_shentsize)
-            && ::pread(fd, segments.data(), table, static_cast<off_t>(header.e_phoff))
-                   == static_cast<ssize_t>(table);
+        safe = own && Covers(size, header.e_phoff, table) &&
+               Covers(size, header.e_shoff, std::uint64_t(header.e_shnum) * header.e_shentsize) &&
+               ::pread(fd, segments.data(), table, static_cast<off_t>(header.e_phoff)) ==
+                   static_cast<ssize_t>(table);
         for (std::size_t i = 0; safe && i < segments.size(); ++i) {
             if (segments[i].p_type == PT_LOAD)
                 safe = Covers(size, segments[i].p_offset, segments[i].p_filesz);

@@ -6,15 +6,12 @@
 
 #include <QEvent>
 #include <QPainter>
-
 #include <cmath>
 #include <utility>
 
 namespace vexplay {
 
-VideoSurface::VideoSurface(QWidget* target)
-    : QWidget(target)
-    , m_sink(std::make_shared<FrameSink>())
+VideoSurface::VideoSurface(QWidget* target) : QWidget(target), m_sink(std::make_shared<FrameSink>())
 {
     setObjectName(QStringLiteral("vexplaySurface"));
     setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -70,7 +67,7 @@ void VideoSurface::FollowTarget()
     setGeometry(target->rect());
     const qreal ratio = devicePixelRatioF();
     m_sink->SetArea(QSize(static_cast<int>(std::lround(width() * ratio)),
-        static_cast<int>(std::lround(height() * ratio))));
+                          static_cast<int>(std::lround(height() * ratio))));
 }
 
 void VideoSurface::paintEvent(QPaintEvent*)
@@ -81,11 +78,13 @@ void VideoSurface::paintEvent(QPaintEvent*)
         return;
     // The picture was scaled for the size of its time; after a resize it is
     // stretched, coarsely, for the moment until the next one arrives.
-    const QSize shown = FrameScaler::FitSize(m_picture.width(), m_picture.height(), 1.0, m_sink->Area());
+    const QSize shown =
+        FrameScaler::FitSize(m_picture.width(), m_picture.height(), 1.0, m_sink->Area());
     const qreal ratio = devicePixelRatioF();
     const QSize logical(qRound(shown.width() / ratio), qRound(shown.height() / ratio));
     // Whole pixels, so that a picture of the right size is copied, not resampled.
-    const QRect place(QPoint((width() - logical.width()) / 2, (height() - logical.height()) / 2), logical);
+    const QRect place(QPoint((width() - logical.width()) / 2, (height() - logical.height()) / 2),
+                      logical);
     painter.drawImage(place, m_picture);
 }
 

@@ -14,20 +14,19 @@
 //   <name> runs <n> median <ms> q1 <ms> q3 <ms> min <ms> max <ms> rss-mb <median> cpu-ms <median>
 //   ratio <program median / floor median>
 
-#include <fcntl.h>
-#include <poll.h>
-#include <signal.h>
-#include <spawn.h>
-#include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <ctime>
+#include <fcntl.h>
+#include <poll.h>
+#include <signal.h>
+#include <spawn.h>
 #include <string>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
 #include <vector>
 
 extern char** environ;
@@ -35,9 +34,9 @@ extern char** environ;
 namespace {
 
 struct Run {
-    double ms = -1;     // spawn to first paint
-    double rssMb = -1;  // at first paint
-    double cpuMs = -1;  // user and system time of the whole child
+    double ms = -1;    // spawn to first paint
+    double rssMb = -1; // at first paint
+    double cpuMs = -1; // user and system time of the whole child
 };
 
 long long NowNs()
@@ -62,7 +61,7 @@ std::string ReadAll(int fd, long long deadlineNs)
         const long long left = (deadlineNs - NowNs()) / 1000000;
         if (left <= 0)
             break;
-        pollfd p{fd, POLLIN, 0};
+        pollfd p{ fd, POLLIN, 0 };
         if (poll(&p, 1, static_cast<int>(left)) <= 0)
             break;
         const ssize_t n = read(fd, buf, sizeof buf);
@@ -85,7 +84,7 @@ Run RunOnce(const char* program)
     posix_spawn_file_actions_adddup2(&actions, pipeFd[1], 2);
     posix_spawn_file_actions_addclose(&actions, pipeFd[0]);
     posix_spawn_file_actions_addclose(&actions, pipeFd[1]);
-    char* argv[] = {const_cast<char*>(program), nullptr};
+    char* argv[] = { const_cast<char*>(program), nullptr };
 
     pid_t pid = 0;
     const long long start = NowNs();
@@ -99,7 +98,7 @@ Run RunOnce(const char* program)
     }
     const std::string out = ReadAll(pipeFd[0], start + 60LL * 1000000000LL);
     close(pipeFd[0]);
-    kill(pid, SIGKILL);  // harmless once it has ended; ends a hung one
+    kill(pid, SIGKILL); // harmless once it has ended; ends a hung one
     int status = 0;
     rusage usage{};
     wait4(pid, &status, 0, &usage);
@@ -139,10 +138,11 @@ void Print(const char* name, const std::vector<Run>& runs)
 {
     const std::vector<double> ms = Field(runs, &Run::ms);
     const char* slash = std::strrchr(name, '/');
-    std::printf("%s runs %zu median %.1f q1 %.1f q3 %.1f min %.1f max %.1f rss-mb %.1f cpu-ms %.1f\n",
-                slash ? slash + 1 : name, runs.size(), Quantile(ms, 0.5), Quantile(ms, 0.25), Quantile(ms, 0.75),
-                Quantile(ms, 0), Quantile(ms, 1), Quantile(Field(runs, &Run::rssMb), 0.5),
-                Quantile(Field(runs, &Run::cpuMs), 0.5));
+    std::printf(
+        "%s runs %zu median %.1f q1 %.1f q3 %.1f min %.1f max %.1f rss-mb %.1f cpu-ms %.1f\n",
+        slash ? slash + 1 : name, runs.size(), Quantile(ms, 0.5), Quantile(ms, 0.25),
+        Quantile(ms, 0.75), Quantile(ms, 0), Quantile(ms, 1),
+        Quantile(Field(runs, &Run::rssMb), 0.5), Quantile(Field(runs, &Run::cpuMs), 0.5));
 }
 
 } // namespace
@@ -170,6 +170,6 @@ int main(int argc, char** argv)
     Print(program, programRuns);
     Print(floor, floorRuns);
     std::printf("ratio %.2f\n", Quantile(Field(programRuns, &Run::ms), 0.5) /
-                                 Quantile(Field(floorRuns, &Run::ms), 0.5));
+                                    Quantile(Field(floorRuns, &Run::ms), 0.5));
     return 0;
 }

@@ -21,7 +21,6 @@
 #include <QCommandLineParser>
 #include <QTimer>
 #include <QWidget>
-
 #include <string>
 
 namespace {
@@ -68,8 +67,8 @@ int main(int argc, char** argv)
     const QCommandLineOption lang(QStringLiteral("lang"), QStringLiteral("en or cn."),
                                   QStringLiteral("lang"), QStringLiteral("en"));
     const QCommandLineOption percent(QStringLiteral("percent"),
-                                     QStringLiteral("Recordable percentage."),
-                                     QStringLiteral("p"), QStringLiteral("90"));
+                                     QStringLiteral("Recordable percentage."), QStringLiteral("p"),
+                                     QStringLiteral("90"));
     const QCommandLineOption weekly(QStringLiteral("weekly"),
                                     QStringLiteral("Record plan on custom hours."));
     const QCommandLineOption custom(QStringLiteral("custom"),
@@ -133,8 +132,8 @@ int main(int argc, char** argv)
 
     if (parser.isSet(shot)) {
         const QString file = parser.value(shot);
-        auto* value = host->findChild<CSFQTStatic*>(
-            QString::fromLatin1(CCalculatorBottom::kNameResultValue));
+        auto* value =
+            host->findChild<CSFQTStatic*>(QString::fromLatin1(CCalculatorBottom::kNameResultValue));
         auto* poll = new QTimer(host);
         // Taken once the value has stopped flashing.
         QObject::connect(poll, &QTimer::timeout, host, [host, value, file, poll] {

@@ -1,10 +1,10 @@
 #include "calculator/engine/BoundedFormat.h"
 
+#include "calculator/engine/NumericLocaleGuard.h"
+
 #include <cstdarg>
 #include <cwchar>
 #include <vector>
-
-#include "calculator/engine/NumericLocaleGuard.h"
 
 namespace {
 

@@ -1,19 +1,18 @@
 #include "calculator/engine/CapacityTable.h"
 
-#include <cstdlib>
-#include <string>
-
 #include "calculator/engine/NumericLocaleGuard.h"
 #include "platform/WinCodePage.h"
+
+#include <cstdlib>
+#include <string>
 
 const double g_aCapacityNominal[kCapacityItemCount] = {
     32, 64, 128, 1024, 2048, 3072, 4096, 6144, 8192, 10240, 12288, 14336, 16384,
 };
 
 const double g_aCapacityReal[kCapacityItemCount] = {
-    29.80232,   59.60464,   119.20928,   953.67424,   1907.34848,
-    2861.02272, 3814.69696, 5722.04544,  7629.39392,  9536.7424,
-    11444.09088, 13351.43936, 15258.78784,
+    29.80232,   59.60464,   119.20928, 953.67424,   1907.34848,  2861.02272,  3814.69696,
+    5722.04544, 7629.39392, 9536.7424, 11444.09088, 13351.43936, 15258.78784,
 };
 
 namespace {

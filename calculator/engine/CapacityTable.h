@@ -1,7 +1,7 @@
 #pragma once
 // The storage media offered for recording days, and typed capacities.
 
-const int kCapacityItemCount = 13;  // "32GB" to "16TB"; "Customize" has no row
+const int kCapacityItemCount = 13; // "32GB" to "16TB"; "Customize" has no row
 
 // Decimal GB to binary GB, cut to seven decimals.
 const double kBinaryGBPerGB = 0.9313225;

@@ -11,11 +11,11 @@ const double kUnitStep = 1024.0;
 // same, which fits any double printed with two decimals.
 const std::size_t kValueTextCount = 512;
 
-const wchar_t* const kCapacityUnits[kCapacityUnitCount] = {L"GB", L"TB", L"PB", L"EB"};
+const wchar_t* const kCapacityUnits[kCapacityUnitCount] = { L"GB", L"TB", L"PB", L"EB" };
 
 SteppedValue StepUnit(double dValue, int nLastUnit)
 {
-    SteppedValue stepped = {dValue, 0};
+    SteppedValue stepped = { dValue, 0 };
     while (kUnitThreshold < stepped.dValue) {
         stepped.dValue = stepped.dValue / kUnitStep;
         ++stepped.nUnit;
@@ -48,7 +48,8 @@ std::wstring FormatCapacityGB(double dGB)
 {
     const SteppedValue stepped = StepCapacityUnit(dGB);
     // Windows' "%s" in a wide format is a wide string; here that is "%ls".
-    return FormatBounded(kValueTextCount, L"%.2f%ls", stepped.dValue, CapacityUnitText(stepped.nUnit));
+    return FormatBounded(kValueTextCount, L"%.2f%ls", stepped.dValue,
+                         CapacityUnitText(stepped.nUnit));
 }
 
 std::wstring FormatTotalBitrate(double dKbps)

@@ -6,11 +6,11 @@
 
 struct SteppedValue {
     double dValue;
-    int nUnit;  // index into the unit list of the stepping used
+    int nUnit; // index into the unit list of the stepping used
 };
 
-const int kCapacityUnitCount = 4;   // "GB", "TB", "PB", "EB"
-const int kBitrateUnitCount = 3;    // "kbps", "Mbps", "Gbps"
+const int kCapacityUnitCount = 4; // "GB", "TB", "PB", "EB"
+const int kBitrateUnitCount = 3;  // "kbps", "Mbps", "Gbps"
 
 // Steps a capacity in binary GB by 1024 while above 10000, at most to "EB".
 SteppedValue StepCapacityUnit(double dGB);

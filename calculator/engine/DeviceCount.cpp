@@ -1,12 +1,12 @@
 #include "calculator/engine/DeviceCount.h"
 
-#include <climits>
-
 #include "calculator/engine/BoundedFormat.h"
 #include "calculator/engine/DiskRequirement.h"
 #include "calculator/engine/RaidCapacity.h"
 #include "calculator/engine/RaidTables.h"
 #include "calculator/engine/SaturatingTruncate.h"
+
+#include <climits>
 
 namespace {
 
@@ -43,9 +43,9 @@ std::wstring FormatDeviceCount(long long nDevices, const wchar_t* pszDevice,
     return FormatBounded(kDeviceTextCount, L"%lld %ls", nDevices, SafeWord(pszWord));
 }
 
-CalcResult CalcDeviceCount(const CRaidTables& tables, double dTotalBitrate, int nDays,
-                           int nDevice, int nLevel, int nBaySel, int nDiskSel,
-                           const wchar_t* pszDevice, const wchar_t* pszDevices)
+CalcResult CalcDeviceCount(const CRaidTables& tables, double dTotalBitrate, int nDays, int nDevice,
+                           int nLevel, int nBaySel, int nDiskSel, const wchar_t* pszDevice,
+                           const wchar_t* pszDevices)
 {
     CalcResult result;
     if (dTotalBitrate == 0.0) {

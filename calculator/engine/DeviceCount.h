@@ -1,9 +1,9 @@
 #pragma once
 // Number of RAID devices that a number of recording days needs.
 
-#include <string>
-
 #include "calculator/engine/CalcResult.h"
+
+#include <string>
 
 class CRaidTables;
 
@@ -26,6 +26,6 @@ std::wstring FormatDeviceCount(long long nDevices, const wchar_t* pszDevice,
 // The whole answer. Always flashed; bFixValueRect is set on the paths that
 // guard the one-line value rectangle (zero rate, and counts below 100000),
 // not on a zero capacity nor on a two-line count.
-CalcResult CalcDeviceCount(const CRaidTables& tables, double dTotalBitrate, int nDays,
-                           int nDevice, int nLevel, int nBaySel, int nDiskSel,
-                           const wchar_t* pszDevice, const wchar_t* pszDevices);
+CalcResult CalcDeviceCount(const CRaidTables& tables, double dTotalBitrate, int nDays, int nDevice,
+                           int nLevel, int nBaySel, int nDiskSel, const wchar_t* pszDevice,
+                           const wchar_t* pszDevices);

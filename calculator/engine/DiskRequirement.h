@@ -4,7 +4,7 @@
 #include "calculator/engine/CalcResult.h"
 
 // The value shown for a total bit rate of 0; it is not flashed.
-extern const wchar_t* const kZeroDiskRequirementText;  // "0.00GB"
+extern const wchar_t* const kZeroDiskRequirementText; // "0.00GB"
 
 // Binary GB that nDays of recording at dTotalBitrate kbps take, round the
 // clock: days * rate * 3600 * 24 / 1024 / 8 / 1024, in this order.

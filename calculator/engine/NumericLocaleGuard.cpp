@@ -11,8 +11,7 @@ locale_t ClassicLocale()
 
 } // namespace
 
-CNumericLocaleGuard::CNumericLocaleGuard()
-    : m_previous(static_cast<locale_t>(0))
+CNumericLocaleGuard::CNumericLocaleGuard() : m_previous(static_cast<locale_t>(0))
 {
     const locale_t classic = ClassicLocale();
     if (classic != static_cast<locale_t>(0))

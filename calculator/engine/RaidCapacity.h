@@ -1,9 +1,9 @@
 #pragma once
 // Available capacity of one RAID device.
 
-#include <string>
-
 #include "calculator/engine/CalcResult.h"
+
+#include <string>
 
 class CRaidTables;
 

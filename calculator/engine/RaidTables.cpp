@@ -16,9 +16,9 @@ CRaidTables::CRaidTables()
 
 void CRaidTables::InitBayOptions()
 {
-    const std::vector<int> vecSmall = {8, 16};
-    const std::vector<int> vecLarge = {16, 24, 36, 48};
-    const std::vector<int> vecLargeNo16 = {24, 36, 48};
+    const std::vector<int> vecSmall = { 8, 16 };
+    const std::vector<int> vecLarge = { 16, 24, 36, 48 };
+    const std::vector<int> vecLargeNo16 = { 24, 36, 48 };
 
     for (int nLevel = LEVEL_RAID1; nLevel <= LEVEL_RAID6; ++nLevel) {
         m_mapBayOptions[DEV_KTR6][nLevel] = vecSmall;
@@ -35,22 +35,22 @@ void CRaidTables::InitDataDiskTable()
     struct Row {
         int nDevice;
         int nLevel;
-        std::vector<int> vecDisks;  // by bay list position
+        std::vector<int> vecDisks; // by bay list position
     };
     // MQS71 with RAID 5 on 48 bays carries 41, one more than MQS50 and MQS70.
     const Row aRows[] = {
-        {DEV_KTR6, LEVEL_RAID1, {4, 8}},
-        {DEV_KTR6, LEVEL_RAID5, {6, 12}},
-        {DEV_KTR6, LEVEL_RAID6, {4, 10}},
-        {DEV_MQS50, LEVEL_RAID1, {8, 12, 18, 24}},
-        {DEV_MQS50, LEVEL_RAID5, {12, 20, 30, 40}},
-        {DEV_MQS50, LEVEL_RAID6, {10, 16, 26, 36}},
-        {DEV_MQS70, LEVEL_RAID1, {8, 12, 18, 24}},
-        {DEV_MQS70, LEVEL_RAID5, {12, 20, 30, 40}},
-        {DEV_MQS70, LEVEL_RAID6, {10, 16, 26, 36}},
-        {DEV_MQS71, LEVEL_RAID1, {8, 12, 18, 24}},
-        {DEV_MQS71, LEVEL_RAID5, {20, 30, 41}},
-        {DEV_MQS71, LEVEL_RAID6, {18, 28, 38}},
+        { DEV_KTR6, LEVEL_RAID1, { 4, 8 } },
+        { DEV_KTR6, LEVEL_RAID5, { 6, 12 } },
+        { DEV_KTR6, LEVEL_RAID6, { 4, 10 } },
+        { DEV_MQS50, LEVEL_RAID1, { 8, 12, 18, 24 } },
+        { DEV_MQS50, LEVEL_RAID5, { 12, 20, 30, 40 } },
+        { DEV_MQS50, LEVEL_RAID6, { 10, 16, 26, 36 } },
+        { DEV_MQS70, LEVEL_RAID1, { 8, 12, 18, 24 } },
+        { DEV_MQS70, LEVEL_RAID5, { 12, 20, 30, 40 } },
+        { DEV_MQS70, LEVEL_RAID6, { 10, 16, 26, 36 } },
+        { DEV_MQS71, LEVEL_RAID1, { 8, 12, 18, 24 } },
+        { DEV_MQS71, LEVEL_RAID5, { 20, 30, 41 } },
+        { DEV_MQS71, LEVEL_RAID6, { 18, 28, 38 } },
     };
     for (const Row& row : aRows) {
         for (std::size_t i = 0; i < row.vecDisks.size(); ++i)

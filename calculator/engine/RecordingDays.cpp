@@ -48,8 +48,7 @@ std::wstring FormatRecordingDays(const RecordingDaysSplit& split, const wchar_t*
 
 CalcResult CalcRecordingDays(double dTotalBitrate, double dRawCapacityGB, unsigned nPercentage,
                              int nRecordPlan, const double (&adDayHours)[kPlanDayCount],
-                             const wchar_t* pszDay, const wchar_t* pszHour,
-                             const wchar_t* pszWeek)
+                             const wchar_t* pszDay, const wchar_t* pszHour, const wchar_t* pszWeek)
 {
     CalcResult result;
     if (dTotalBitrate == 0.0) {
@@ -65,6 +64,7 @@ CalcResult CalcRecordingDays(double dTotalBitrate, double dRawCapacityGB, unsign
     }
 
     const double dRemain = dUsable / RecordingPerHourGB(dTotalBitrate);
-    result.strValue = FormatWeeklyPlan(WalkWeeklyPlan(dRemain, adDayHours), pszWeek, pszDay, pszHour);
+    result.strValue =
+        FormatWeeklyPlan(WalkWeeklyPlan(dRemain, adDayHours), pszWeek, pszDay, pszHour);
     return result;
 }

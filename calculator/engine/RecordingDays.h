@@ -2,14 +2,14 @@
 // Recording days: how long a disk or card records the total bit rate, round
 // the clock or under a weekly plan.
 
-#include <string>
-
 #include "calculator/engine/CalcResult.h"
 #include "calculator/engine/WeeklyPlan.h"
 
+#include <string>
+
 // Record plan combo entries.
-const int kRecordPlanAllDay = 0;   // "24 hours per day"
-const int kRecordPlanWeekly = 1;   // "Customize(hours)"
+const int kRecordPlanAllDay = 0; // "24 hours per day"
+const int kRecordPlanWeekly = 1; // "Customize(hours)"
 
 // percentage * raw / 100, multiplying first.
 double UsableCapacityGB(unsigned nPercentage, double dRawGB);
@@ -37,5 +37,4 @@ std::wstring FormatRecordingDays(const RecordingDaysSplit& split, const wchar_t*
 // Sunday first (DayHoursFromText). Always flashed.
 CalcResult CalcRecordingDays(double dTotalBitrate, double dRawCapacityGB, unsigned nPercentage,
                              int nRecordPlan, const double (&adDayHours)[kPlanDayCount],
-                             const wchar_t* pszDay, const wchar_t* pszHour,
-                             const wchar_t* pszWeek);
+                             const wchar_t* pszDay, const wchar_t* pszHour, const wchar_t* pszWeek);

@@ -1,10 +1,10 @@
 #include "calculator/engine/WeeklyPlan.h"
 
-#include <climits>
-
 #include "calculator/engine/BoundedFormat.h"
 #include "calculator/engine/SaturatingTruncate.h"
 #include "platform/WinWideString.h"
+
+#include <climits>
 
 namespace {
 
@@ -29,7 +29,7 @@ double DayHoursFromText(const wchar_t* pszText)
 
 WeeklyPlanAnswer WalkWeeklyPlan(double dRemainHours, const double (&adDayHours)[kPlanDayCount])
 {
-    WeeklyPlanAnswer answer = {0, 0, 0.0};
+    WeeklyPlanAnswer answer = { 0, 0, 0.0 };
 
     bool bAllZero = true;
     for (double dHours : adDayHours) {

@@ -4,7 +4,7 @@
 
 #include <string>
 
-const int kPlanDayCount = 7;  // index 0 is Sunday
+const int kPlanDayCount = 7; // index 0 is Sunday
 
 struct WeeklyPlanAnswer {
     long long nWeeks;

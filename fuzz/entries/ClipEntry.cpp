@@ -1,9 +1,8 @@
+#include "fuzz/entries/FuzzCheck.h"
 #include "fuzz/entries/FuzzEntries.h"
-
+#include "fuzz/entries/FuzzScratch.h"
 #include "vexplay/ClipDecoder.h"
 #include "vexplay/FrameScaler.h"
-#include "fuzz/entries/FuzzCheck.h"
-#include "fuzz/entries/FuzzScratch.h"
 #include "vexplay/vexplay.h"
 
 #include <QImage>

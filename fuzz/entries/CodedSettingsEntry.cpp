@@ -1,8 +1,7 @@
-#include "fuzz/entries/FuzzEntries.h"
-
 #include "Config/ConfigXMLPersistImp.h"
 #include "fuzz/entries/FuzzCheck.h"
 #include "fuzz/entries/FuzzCurrentDir.h"
+#include "fuzz/entries/FuzzEntries.h"
 #include "fuzz/entries/FuzzScratch.h"
 #include "fuzz/entries/FuzzSettingStore.h"
 

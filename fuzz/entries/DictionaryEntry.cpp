@@ -1,6 +1,5 @@
-#include "fuzz/entries/FuzzEntries.h"
-
 #include "fuzz/entries/FuzzCheck.h"
+#include "fuzz/entries/FuzzEntries.h"
 #include "fuzz/entries/FuzzScratch.h"
 #include "language/LangString.h"
 #include "language/SFStreamConvert.h"
@@ -50,7 +49,8 @@ int FuzzDictionary(const uint8_t* data, size_t size)
     Lookup(L"");
     Lookup(L"Close");
     Lookup(std::wstring(1500, L'k'));
-    for (const std::wstring& key : NamedKeys(std::string(reinterpret_cast<const char*>(data), size), 16))
+    for (const std::wstring& key :
+         NamedKeys(std::string(reinterpret_cast<const char*>(data), size), 16))
         Lookup(key);
     // Six lookups cycle through every buffer.
     for (int i = 0; i < 6; ++i)

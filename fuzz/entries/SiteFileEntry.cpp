@@ -1,6 +1,5 @@
-#include "fuzz/entries/FuzzEntries.h"
-
 #include "fuzz/entries/FuzzCheck.h"
+#include "fuzz/entries/FuzzEntries.h"
 #include "plan/SiteFigures.h"
 #include "plan/SiteFileReader.h"
 

@@ -1,9 +1,8 @@
-#include "fuzz/entries/FuzzEntries.h"
-
-#include "sf/DialogStyle.h"
 #include "fuzz/entries/FuzzCheck.h"
+#include "fuzz/entries/FuzzEntries.h"
 #include "fuzz/entries/FuzzGuiApp.h"
 #include "fuzz/entries/FuzzScratch.h"
+#include "sf/DialogStyle.h"
 #include "sf/qt/SFApplication.h"
 #include "sf/qt/SFFrameSkin.h"
 #include "sf/qt/SFSkinParse.h"
@@ -50,34 +49,87 @@ const QString& SkinDir()
 
 std::vector<std::wstring*> Fields(DialogStyle& s)
 {
-    return { &s.strFrameImage, &s.strBackgroundImage, &s.strBackgroundMode,
-             &s.strBackgroundColor, &s.strTopLeft, &s.strTopLeftMode, &s.strTop, &s.strTopMode,
-             &s.strTopRight, &s.strTopRightMode, &s.strLeftTop, &s.strLeftTopMode, &s.strLeft,
-             &s.strLeftMode, &s.strLeftBottom, &s.strLeftBottomMode, &s.strBottomLeft,
-             &s.strBottomLeftMode, &s.strBottom, &s.strBottomMode, &s.strBottomRight,
-             &s.strBottomRightMode, &s.strRightBottom, &s.strRightBottomMode, &s.strRight,
-             &s.strRightMode, &s.strRightTop, &s.strRightTopMode, &s.strBtn4Normal,
-             &s.strBtn4Hover, &s.strBtn4Pressed, &s.strBtn3Normal, &s.strBtn3Hover,
-             &s.strBtn3Pressed, &s.strBtn2Normal, &s.strBtn2Hover, &s.strBtn2Pressed,
-             &s.strBtn1Normal, &s.strBtn1Hover, &s.strBtn1Pressed, &s.strReserved,
-             &s.strBtn4Rect, &s.strBtn3Rect, &s.strBtn2Rect, &s.strBtn1Rect, &s.strTitleFont,
-             &s.strTitleFontSize, &s.strTitleFontWeight, &s.strTitleColor,
-             &s.strTitleColorInactive, &s.strTitleReserved1, &s.strTitleReserved2,
-             &s.strTitleReserved3, &s.strTitleAlign, &s.strTitleRect, &s.strClientRect,
-             &s.strRoundCorner, &s.strWindowSize, &s.strBtn1ImageNormal, &s.strBtn1ImageHover,
-             &s.strBtn1ImagePressed, &s.strBtn3ImageNormal, &s.strBtn3ImageHover,
-             &s.strBtn3ImagePressed, &s.strBtn2ImageNormal, &s.strBtn2ImageHover,
-             &s.strBtn2ImagePressed, &s.strBtn4ImageNormal, &s.strBtn4ImageHover,
+    return { &s.strFrameImage,
+             &s.strBackgroundImage,
+             &s.strBackgroundMode,
+             &s.strBackgroundColor,
+             &s.strTopLeft,
+             &s.strTopLeftMode,
+             &s.strTop,
+             &s.strTopMode,
+             &s.strTopRight,
+             &s.strTopRightMode,
+             &s.strLeftTop,
+             &s.strLeftTopMode,
+             &s.strLeft,
+             &s.strLeftMode,
+             &s.strLeftBottom,
+             &s.strLeftBottomMode,
+             &s.strBottomLeft,
+             &s.strBottomLeftMode,
+             &s.strBottom,
+             &s.strBottomMode,
+             &s.strBottomRight,
+             &s.strBottomRightMode,
+             &s.strRightBottom,
+             &s.strRightBottomMode,
+             &s.strRight,
+             &s.strRightMode,
+             &s.strRightTop,
+             &s.strRightTopMode,
+             &s.strBtn4Normal,
+             &s.strBtn4Hover,
+             &s.strBtn4Pressed,
+             &s.strBtn3Normal,
+             &s.strBtn3Hover,
+             &s.strBtn3Pressed,
+             &s.strBtn2Normal,
+             &s.strBtn2Hover,
+             &s.strBtn2Pressed,
+             &s.strBtn1Normal,
+             &s.strBtn1Hover,
+             &s.strBtn1Pressed,
+             &s.strReserved,
+             &s.strBtn4Rect,
+             &s.strBtn3Rect,
+             &s.strBtn2Rect,
+             &s.strBtn1Rect,
+             &s.strTitleFont,
+             &s.strTitleFontSize,
+             &s.strTitleFontWeight,
+             &s.strTitleColor,
+             &s.strTitleColorInactive,
+             &s.strTitleReserved1,
+             &s.strTitleReserved2,
+             &s.strTitleReserved3,
+             &s.strTitleAlign,
+             &s.strTitleRect,
+             &s.strClientRect,
+             &s.strRoundCorner,
+             &s.strWindowSize,
+             &s.strBtn1ImageNormal,
+             &s.strBtn1ImageHover,
+             &s.strBtn1ImagePressed,
+             &s.strBtn3ImageNormal,
+             &s.strBtn3ImageHover,
+             &s.strBtn3ImagePressed,
+             &s.strBtn2ImageNormal,
+             &s.strBtn2ImageHover,
+             &s.strBtn2ImagePressed,
+             &s.strBtn4ImageNormal,
+             &s.strBtn4ImageHover,
              &s.strBtn4ImagePressed };
 }
 
 bool IsImageField(const DialogStyle& s, const std::wstring* field)
 {
-    const std::wstring* images[] = { &s.strFrameImage, &s.strBackgroundImage,
-        &s.strBtn1ImageNormal, &s.strBtn1ImageHover, &s.strBtn1ImagePressed,
-        &s.strBtn2ImageNormal, &s.strBtn2ImageHover, &s.strBtn2ImagePressed,
-        &s.strBtn3ImageNormal, &s.strBtn3ImageHover, &s.strBtn3ImagePressed,
-        &s.strBtn4ImageNormal, &s.strBtn4ImageHover, &s.strBtn4ImagePressed };
+    const std::wstring* images[] = { &s.strFrameImage,       &s.strBackgroundImage,
+                                     &s.strBtn1ImageNormal,  &s.strBtn1ImageHover,
+                                     &s.strBtn1ImagePressed, &s.strBtn2ImageNormal,
+                                     &s.strBtn2ImageHover,   &s.strBtn2ImagePressed,
+                                     &s.strBtn3ImageNormal,  &s.strBtn3ImageHover,
+                                     &s.strBtn3ImagePressed, &s.strBtn4ImageNormal,
+                                     &s.strBtn4ImageHover,   &s.strBtn4ImagePressed };
     return std::find(std::begin(images), std::end(images), field) != std::end(images);
 }
 

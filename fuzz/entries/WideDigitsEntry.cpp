@@ -1,6 +1,5 @@
-#include "fuzz/entries/FuzzEntries.h"
-
 #include "fuzz/entries/FuzzCheck.h"
+#include "fuzz/entries/FuzzEntries.h"
 #include "language/TextConvert.h"
 #include "platform/WinTypes.h"
 
@@ -45,10 +44,12 @@ std::wstring WideText(const uint8_t* data, size_t size, bool fourBytes)
 void Conversions(const uint8_t* data, size_t size)
 {
     const std::string narrow(reinterpret_cast<const char*>(data), size);
-    for (unsigned int codePage : { static_cast<unsigned int>(CP_UTF8), static_cast<unsigned int>(CP_ACP) }) {
+    for (unsigned int codePage :
+         { static_cast<unsigned int>(CP_UTF8), static_cast<unsigned int>(CP_ACP) }) {
         for (int length : { 0, 1, 7, 64 }) {
             std::vector<wchar_t> wide(static_cast<size_t>(length) + 1, L'#');
-            const int n = NarrowToWideInto(narrow.c_str(), length ? wide.data() : nullptr, length, codePage);
+            const int n =
+                NarrowToWideInto(narrow.c_str(), length ? wide.data() : nullptr, length, codePage);
             FUZZ_CHECK(n >= 0);
             if (length > 0 && n > 0) {
                 FUZZ_CHECK(n <= length);

@@ -1,7 +1,7 @@
 #include "sf/dialogs/MsgDlgEventImp.h"
 
-#include "sf/DialogStyle.h"
 #include "language/LangString.h"
+#include "sf/DialogStyle.h"
 #include "sf/SFButton.h"
 #include "sf/SFDialog.h"
 #include "sf/SFFactory.h"
@@ -121,9 +121,9 @@ int CMsgDlgEventImp::Dlg_OnInitDialog(bool bCreateOnly)
     }
     rcDlg.bottom = rcBtn.bottom + kMargin;
 
-    m_pBtnClose = SFCreateCloseButton(
-        nullptr, tagRECT{ rcDlg.Width() - 22, 5, rcDlg.Width() - 5, 21 }, GetUIWnd(),
-        kCloseButtonId);
+    m_pBtnClose =
+        SFCreateCloseButton(nullptr, tagRECT{ rcDlg.Width() - 22, 5, rcDlg.Width() - 5, 21 },
+                            GetUIWnd(), kCloseButtonId);
 
     if (m_pDlg) {
         m_pDlg->MoveWindow(&rcDlg);

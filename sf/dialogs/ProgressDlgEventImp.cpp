@@ -1,7 +1,7 @@
 #include "sf/dialogs/ProgressDlgEventImp.h"
 
-#include "sf/qt/SFApplication.h"
 #include "sf/SFDialog.h"
+#include "sf/qt/SFApplication.h"
 #include "sf/qt/SFQtConvert.h"
 
 #include <QLabel>

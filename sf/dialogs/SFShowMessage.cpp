@@ -1,9 +1,9 @@
 #include "sf/dialogs/SFShowMessage.h"
 
 #include "sf/DialogStyle.h"
-#include "sf/dialogs/MsgDlgEventImp.h"
 #include "sf/SFDialog.h"
 #include "sf/SFFactory.h"
+#include "sf/dialogs/MsgDlgEventImp.h"
 #include "sf/qt/SFQtConvert.h"
 
 int SFShowMessage(const wchar_t* text, const wchar_t* title, int btnMode, int reserved,

@@ -48,8 +48,8 @@ void SFLoadStyleSheet(std::wstring path)
     // Looked at before it is opened: a FIFO would block the open, a device
     // never end; anything but a regular file counts as no sheet.
     struct stat st;
-    if (::stat(QFile::encodeName(g_strStyleSheetPath).constData(), &st) != 0
-        || !S_ISREG(st.st_mode) || st.st_size > kMaxStyleSheetBytes)
+    if (::stat(QFile::encodeName(g_strStyleSheetPath).constData(), &st) != 0 ||
+        !S_ISREG(st.st_mode) || st.st_size > kMaxStyleSheetBytes)
         return;
     QFile file(g_strStyleSheetPath);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
@@ -61,5 +61,9 @@ void SFLoadStyleSheet(std::wstring path)
 
 // A port of the framework to another toolkit would set up and tear down
 // its globals here.
-void SFInitUI() {}
-void SFUninitUI() {}
+void SFInitUI()
+{
+}
+void SFUninitUI()
+{
+}

@@ -1,7 +1,7 @@
 #include "sf/qt/SFEventDispatch.h"
 
-#include "sf/qt/SFCustomEvent.h"
 #include "sf/SFEventBase.h"
+#include "sf/qt/SFCustomEvent.h"
 #include "sf/qt/SFQtConvert.h"
 
 #include <QCoreApplication>
@@ -17,8 +17,8 @@ bool SFDispatchMessageMap(CSFEventBase* handler, const CSFCustomEvent& e)
 {
     if (!handler)
         return false;
-    const SF_MSGMAP_ENTRY* entry = SFFindMessageEntry(handler->GetSFMessageMap(), e.message,
-                                                      e.code, static_cast<unsigned int>(e.lParam));
+    const SF_MSGMAP_ENTRY* entry = SFFindMessageEntry(handler->GetSFMessageMap(), e.message, e.code,
+                                                      static_cast<unsigned int>(e.lParam));
     if (!entry)
         return false;
     if (!entry->pfn)
@@ -71,4 +71,3 @@ void SFPostUIMessage(void* target, unsigned int id, unsigned int wParam)
     if (e)
         QCoreApplication::postEvent(widget, e);
 }
-

@@ -1,5 +1,4 @@
 #include "sf/SFVideoWindowFactory.h"
-
 #include "sf/qt/SFQTVideoWindow.h"
 #include "sf/qt/SFQtConvert.h"
 

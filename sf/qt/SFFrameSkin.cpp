@@ -20,8 +20,8 @@ void DrawPiece(QPainter& painter, const QPixmap& frame, Pos x, Pos y, const QRec
         return;
     // Wholly outside the target, it would not show.
     const QPaintDevice* target = painter.device();
-    if (x >= target->width() || y >= target->height() || x + piece.width() <= 0
-        || y + piece.height() <= 0)
+    if (x >= target->width() || y >= target->height() || x + piece.width() <= 0 ||
+        y + piece.height() <= 0)
         return;
     painter.drawPixmap(QPoint(static_cast<int>(x), static_cast<int>(y)), frame, piece);
 }
@@ -69,11 +69,10 @@ void CSFFrameSkin::Load(const DialogStyle& s, bool dialog)
     m_pBackground = SFLoadSkinPixmap(s.strBackgroundImage);
     m_pFrame = SFLoadSkinPixmap(s.strFrameImage);
 
-    const std::wstring* pieces[PieceCount] = {
-        &s.strTopLeft, &s.strTop, &s.strTopRight, &s.strLeftTop, &s.strLeft, &s.strLeftBottom,
-        &s.strBottomLeft, &s.strBottom, &s.strBottomRight, &s.strRightBottom, &s.strRight,
-        &s.strRightTop
-    };
+    const std::wstring* pieces[PieceCount] = { &s.strTopLeft,     &s.strTop,    &s.strTopRight,
+                                               &s.strLeftTop,     &s.strLeft,   &s.strLeftBottom,
+                                               &s.strBottomLeft,  &s.strBottom, &s.strBottomRight,
+                                               &s.strRightBottom, &s.strRight,  &s.strRightTop };
     for (int i = 0; i < PieceCount; ++i)
         m_pieces[i] = SFParseRect(*pieces[i]);
 
@@ -85,13 +84,17 @@ void CSFFrameSkin::Load(const DialogStyle& s, bool dialog)
     };
     const ButtonFields buttons[ButtonCount] = {
         { { &s.strBtn1Normal, &s.strBtn1Hover, &s.strBtn1Pressed },
-          { &s.strBtn1ImageNormal, &s.strBtn1ImageHover, &s.strBtn1ImagePressed }, &s.strBtn1Rect },
+          { &s.strBtn1ImageNormal, &s.strBtn1ImageHover, &s.strBtn1ImagePressed },
+          &s.strBtn1Rect },
         { { &s.strBtn2Normal, &s.strBtn2Hover, &s.strBtn2Pressed },
-          { &s.strBtn2ImageNormal, &s.strBtn2ImageHover, &s.strBtn2ImagePressed }, &s.strBtn2Rect },
+          { &s.strBtn2ImageNormal, &s.strBtn2ImageHover, &s.strBtn2ImagePressed },
+          &s.strBtn2Rect },
         { { &s.strBtn3Normal, &s.strBtn3Hover, &s.strBtn3Pressed },
-          { &s.strBtn3ImageNormal, &s.strBtn3ImageHover, &s.strBtn3ImagePressed }, &s.strBtn3Rect },
+          { &s.strBtn3ImageNormal, &s.strBtn3ImageHover, &s.strBtn3ImagePressed },
+          &s.strBtn3Rect },
         { { &s.strBtn4Normal, &s.strBtn4Hover, &s.strBtn4Pressed },
-          { &s.strBtn4ImageNormal, &s.strBtn4ImageHover, &s.strBtn4ImagePressed }, &s.strBtn4Rect },
+          { &s.strBtn4ImageNormal, &s.strBtn4ImageHover, &s.strBtn4ImagePressed },
+          &s.strBtn4Rect },
     };
     for (int n = 0; n < ButtonCount; ++n) {
         for (int st = 0; st < 3; ++st) {
@@ -284,6 +287,6 @@ bool CSFFrameSkin::IsValidRect(const QRect& rect)
 
 bool CSFFrameSkin::RectHolds(const QRect& rect, const QPoint& pt)
 {
-    return IsValidRect(rect) && pt.x() >= rect.left() && pt.x() <= rect.right()
-        && pt.y() >= rect.top() && pt.y() <= rect.bottom();
+    return IsValidRect(rect) && pt.x() >= rect.left() && pt.x() <= rect.right() &&
+           pt.y() >= rect.top() && pt.y() <= rect.bottom();
 }

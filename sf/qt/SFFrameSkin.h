@@ -14,8 +14,18 @@
 class CSFFrameSkin {
 public:
     enum Piece {
-        TopLeft, Top, TopRight, LeftTop, Left, LeftBottom,
-        BottomLeft, Bottom, BottomRight, RightBottom, Right, RightTop,
+        TopLeft,
+        Top,
+        TopRight,
+        LeftTop,
+        Left,
+        LeftBottom,
+        BottomLeft,
+        Bottom,
+        BottomRight,
+        RightBottom,
+        Right,
+        RightTop,
         PieceCount
     };
     enum ButtonState { Normal = 0, Hover = 1, Pressed = 2 };

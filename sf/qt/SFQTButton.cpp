@@ -29,9 +29,8 @@ const QColor kDisabledText = QColor::fromRgba(0xFF6B6B6Bu);
 } // namespace
 
 CSFQTButton::CSFQTButton(ISFButtonEvent* handler, QWidget* parent)
-    : CSFQTControl(handler, parent),
-      m_textFlags(kFlagsCentre), m_elide(3), m_state(StateNormal), m_selected(0),
-      m_keepSelected(1), m_textColor(Qt::black), m_textOffsetX(0), m_textOffsetY(0),
+    : CSFQTControl(handler, parent), m_textFlags(kFlagsCentre), m_elide(3), m_state(StateNormal),
+      m_selected(0), m_keepSelected(1), m_textColor(Qt::black), m_textOffsetX(0), m_textOffsetY(0),
       m_tooltipEnabled(0), m_fade(this), m_iconPos(ICON_POS_STRETCH)
 {
     connect(this, &QPushButton::clicked, this, &CSFQTButton::OnClicked);
@@ -41,8 +40,8 @@ CSFQTButton::~CSFQTButton()
 {
 }
 
-int CSFQTButton::Create(const wchar_t* text, unsigned long style, const tagRECT& rect,
-                        void* parent, unsigned int id)
+int CSFQTButton::Create(const wchar_t* text, unsigned long style, const tagRECT& rect, void* parent,
+                        unsigned int id)
 {
     const QString label = SFToQString(text);
     setText(label);

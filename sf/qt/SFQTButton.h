@@ -3,8 +3,8 @@
 // optional text on top.
 
 #include "sf/SFButton.h"
-#include "sf/qt/SFQTControl.h"
 #include "sf/qt/SFPicFade.h"
+#include "sf/qt/SFQTControl.h"
 
 #include <QColor>
 #include <QPixmap>

@@ -84,8 +84,8 @@ void CSFQTCheckBox::paintEvent(QPaintEvent*)
         boxRect = picture.rect().translated(0, (height() - picture.height()) >> 1);
         painter.drawPixmap(boxRect.topLeft(), picture);
     }
-    painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled,
-                                   QPalette::WindowText));
+    painter.setPen(
+        palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
     const int textLeft = boxRect.right() + 1 + 4;
     painter.drawText(QRect(textLeft, 0, width() - textLeft, height()), m_textFlags, text());
 }

@@ -10,8 +10,8 @@
 #include <QCoreApplication>
 #include <QIcon>
 #include <QMouseEvent>
-#include <QPointer>
 #include <QPainter>
+#include <QPointer>
 #include <QScreen>
 #include <algorithm>
 #include <climits>
@@ -80,8 +80,8 @@ const QIcon& RowSpacer()
 } // namespace
 
 CSFQTComboBox::CSFQTComboBox(ISFComboBoxEvent* handler, QWidget* parent)
-    : CSFQTControl(handler, parent), m_state(0), m_popupOpen(0), m_originStyle(0),
-      m_sheetWanted(0), m_popupMade(0)
+    : CSFQTControl(handler, parent), m_state(0), m_popupOpen(0), m_originStyle(0), m_sheetWanted(0),
+      m_popupMade(0)
 {
     setFrame(false);
     Connect();

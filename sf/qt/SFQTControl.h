@@ -2,8 +2,8 @@
 // What every Qt control realisation shares: the facade's visibility and
 // geometry operations and the placement that each Create does.
 
-#include "sf/qt/SFQtConvert.h"
 #include "platform/WinTypes.h"
+#include "sf/qt/SFQtConvert.h"
 
 #include <QRect>
 #include <QString>

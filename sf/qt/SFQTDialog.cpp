@@ -42,8 +42,8 @@ int CSFQTDialog::ModifyDlgStyleEx(unsigned long remove, unsigned long add, unsig
 {
     const bool wasVisible = isVisible();
     const Qt::WindowFlags flags =
-        (windowFlags() & ~Qt::WindowFlags::fromInt(static_cast<int>(remove)))
-        | Qt::WindowFlags::fromInt(static_cast<int>(add));
+        (windowFlags() & ~Qt::WindowFlags::fromInt(static_cast<int>(remove))) |
+        Qt::WindowFlags::fromInt(static_cast<int>(add));
     setWindowFlags(flags);
     if (wasVisible)
         show();

@@ -31,8 +31,8 @@ CSFQTEditCtrl::~CSFQTEditCtrl()
     disconnect(this, nullptr, this, nullptr);
 }
 
-int CSFQTEditCtrl::Create(unsigned long style, const tagRECT& rect, void* parent,
-                          unsigned int id, bool password)
+int CSFQTEditCtrl::Create(unsigned long style, const tagRECT& rect, void* parent, unsigned int id,
+                          bool password)
 {
     Place(parent, SFRectForCreate(rect), id, "edit");
     if (password)

@@ -1,10 +1,10 @@
 #include "sf/qt/SFQTListCtrl.h"
 
-#include "sf/qt/SFEventDispatch.h"
 #include "sf/SFListNotify.h"
+#include "sf/SFRadioBox.h"
+#include "sf/qt/SFEventDispatch.h"
 #include "sf/qt/SFQTListRowDelegate.h"
 #include "sf/qt/SFQtConvert.h"
-#include "sf/SFRadioBox.h"
 #include "sf/qt/SFSkinParse.h"
 
 #include <QHeaderView>
@@ -65,8 +65,7 @@ CSFQTListCtrl::CSFQTListCtrl(ISFListCtrlEvent* handler, QWidget* parent)
     connect(this, &QTableWidget::itemDoubleClicked, this, &CSFQTListCtrl::OnItemDBClicked);
     connect(horizontalScrollBar(), &QScrollBar::valueChanged, this,
             &CSFQTListCtrl::OnHeaderPosChanged);
-    connect(horizontalScrollBar(), &QScrollBar::rangeChanged, this,
-            &CSFQTListCtrl::OnrangeChanged);
+    connect(horizontalScrollBar(), &QScrollBar::rangeChanged, this, &CSFQTListCtrl::OnrangeChanged);
     connect(verticalScrollBar(), &QScrollBar::sliderMoved, this,
             &CSFQTListCtrl::OnVerPosBarChanged);
     connect(horizontalScrollBar(), &QScrollBar::sliderMoved, this,
@@ -74,10 +73,8 @@ CSFQTListCtrl::CSFQTListCtrl(ISFListCtrlEvent* handler, QWidget* parent)
     connect(horizontalHeader(), &QHeaderView::sectionClicked, this,
             &CSFQTListCtrl::OnHeaderClicked);
     connect(this, &QTableWidget::itemChanged, this, &CSFQTListCtrl::OnWidgetItemChanged);
-    connect(this, &QAbstractItemView::doubleClicked, this,
-            &CSFQTListCtrl::OnWidgetItemDBClicked);
-    connect(horizontalHeader(), &QHeaderView::sectionResized, this,
-            [this] { PlaceHeaderCheck(); });
+    connect(this, &QAbstractItemView::doubleClicked, this, &CSFQTListCtrl::OnWidgetItemDBClicked);
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this] { PlaceHeaderCheck(); });
 }
 
 CSFQTListCtrl::~CSFQTListCtrl()
@@ -121,13 +118,13 @@ int CSFQTListCtrl::SetSkin(ListCtrlStyle* style)
         const std::unique_ptr<QPixmap> image = SFLoadSkinPixmap(style->strImage);
         m_skinImage = image ? *image : QPixmap();
     }
-    const std::wstring* rects[20] = {
-        &style->strSlice1,  &style->strSlice2,  &style->strSlice3,  &style->strSlice4,
-        &style->strSlice5,  &style->strSlice6,  &style->strSlice7,  &style->strSlice8,
-        &style->strSlice9,  &style->strSlice10, &style->strSlice11, &style->strSlice12,
-        &style->strSlice13, &style->strSlice14, &style->strSlice15, &style->strSlice16,
-        &style->strSlice17, &style->strSlice18, &style->strSlice19, &style->strSlice20
-    };
+    const std::wstring* rects[20] = { &style->strSlice1,  &style->strSlice2,  &style->strSlice3,
+                                      &style->strSlice4,  &style->strSlice5,  &style->strSlice6,
+                                      &style->strSlice7,  &style->strSlice8,  &style->strSlice9,
+                                      &style->strSlice10, &style->strSlice11, &style->strSlice12,
+                                      &style->strSlice13, &style->strSlice14, &style->strSlice15,
+                                      &style->strSlice16, &style->strSlice17, &style->strSlice18,
+                                      &style->strSlice19, &style->strSlice20 };
     const std::wstring* modes[20] = {
         &style->strSlice1Mode,  &style->strSlice2Mode,  &style->strSlice3Mode,
         &style->strSlice4Mode,  &style->strSlice5Mode,  &style->strSlice6Mode,
@@ -400,8 +397,7 @@ void CSFQTListCtrl::SetSelectionStyle(unsigned int style)
 
 void CSFQTListCtrl::EditorMode(int mode)
 {
-    setEditTriggers(mode ? (QAbstractItemView::SelectedClicked |
-                            QAbstractItemView::EditKeyPressed)
+    setEditTriggers(mode ? (QAbstractItemView::SelectedClicked | QAbstractItemView::EditKeyPressed)
                          : QAbstractItemView::NoEditTriggers);
 }
 

@@ -96,8 +96,7 @@ public:
     int SetItemData(int row, unsigned long data) override;
     int SetItemText(int row, int col, const wchar_t* text) override;
     int SubItemHitTest(void* info) override;
-    int InsertColumn(int col, const wchar_t* heading, int format, int width,
-                     int subItem) override;
+    int InsertColumn(int col, const wchar_t* heading, int format, int width, int subItem) override;
     int InsertColumnCheck(int col, ImageRadioBox style) override;
     int InsertItem(int row, const wchar_t* text) override;
     unsigned long SetExtendedStyle(unsigned long style) override;

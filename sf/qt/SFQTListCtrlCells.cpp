@@ -9,10 +9,10 @@
 #include "sf/SFFactory.h"
 #include "sf/SFListCtrlIds.h"
 #include "sf/SFNumSpiner.h"
-#include "sf/qt/SFQtConvert.h"
 #include "sf/SFRadioBox.h"
-#include "sf/qt/SFSkinParse.h"
 #include "sf/SFView.h"
+#include "sf/qt/SFQtConvert.h"
+#include "sf/qt/SFSkinParse.h"
 
 #include <QAbstractButton>
 #include <QComboBox>
@@ -71,9 +71,9 @@ void CSFQTListCtrl::Enrol(QMap<T*, int>& reg, T* control, int row, int col, unsi
 {
     reg.insert(control, row);
     RegistersChanged();
-    m_cellControls.insert(control, CellControl{ id, kind,
-                                                QPersistentModelIndex(model()->index(row, col)),
-                                                dynamic_cast<QWidget*>(control) });
+    m_cellControls.insert(control,
+                          CellControl{ id, kind, QPersistentModelIndex(model()->index(row, col)),
+                                       dynamic_cast<QWidget*>(control) });
 }
 
 namespace {
@@ -143,8 +143,7 @@ void CSFQTListCtrl::SetItemComboBox(int type, int row, int col, int, ImageComboB
 {
     static const unsigned int bases[4] = { SF_LIST_ID_BUTTON_COMBO, SF_LIST_ID_FIRST_COMBO,
                                            SF_LIST_ID_SECOND_COMBO, SF_LIST_ID_EDIT_COMBO };
-    static const char* const names[4] = { "environment", "compression", "resolution",
-                                          "framerate" };
+    static const char* const names[4] = { "environment", "compression", "resolution", "framerate" };
     QMap<CSFComboBox*, int>* const regs[4] = { &m_environmentCombos, &m_compressionCombos,
                                                &m_resolutionCombos, &m_frameRateCombos };
     if (type < 0 || type >= SF_LIST_COMBO_TYPE_COUNT)
@@ -277,9 +276,8 @@ void CSFQTListCtrl::SetItemEditCtrl(int row, int col, int)
     PlaceCellPage(page, row, col, PlaceCentred);
 }
 
-void CSFQTListCtrl::SetItemWidget(int row, int col, const wchar_t* toolTip,
-                                  const wchar_t* toolTip2, ImageButtonStyle style,
-                                  ImageButtonStyle style2)
+void CSFQTListCtrl::SetItemWidget(int row, int col, const wchar_t* toolTip, const wchar_t* toolTip2,
+                                  ImageButtonStyle style, ImageButtonStyle style2)
 {
     QWidget* page = NewCellPage(row, col);
     if (!page)
@@ -393,9 +391,11 @@ void CSFQTListCtrl::SetItemProgress(int row, int col, unsigned int value,
     bar->setAlignment(Qt::AlignCenter);
     QString sheet;
     if (!style.strBackground.empty())
-        sheet += QStringLiteral("QProgressBar {border-image: %1;}").arg(SkinUrl(style.strBackground));
+        sheet +=
+            QStringLiteral("QProgressBar {border-image: %1;}").arg(SkinUrl(style.strBackground));
     if (!style.strChunk.empty())
-        sheet += QStringLiteral("QProgressBar::chunk {border-image: %1;}").arg(SkinUrl(style.strChunk));
+        sheet +=
+            QStringLiteral("QProgressBar::chunk {border-image: %1;}").arg(SkinUrl(style.strChunk));
     if (!style.strTextColor.empty())
         sheet += QStringLiteral("QProgressBar {color: %1;}")
                      .arg(SFParseColor(style.strTextColor).name());

@@ -5,9 +5,9 @@
 #include "sf/SFButton.h"
 #include "sf/SFComboBox.h"
 #include "sf/SFEditCtrl.h"
-#include "sf/qt/SFEventDispatch.h"
 #include "sf/SFNumSpiner.h"
 #include "sf/SFRadioBox.h"
+#include "sf/qt/SFEventDispatch.h"
 
 #include <QProgressBar>
 #include <algorithm>
@@ -229,7 +229,8 @@ void CSFQTListCtrl::DeleteSelectedItems(std::set<int>& rows)
 
 void CSFQTListCtrl::SetItemShow(int row, int, unsigned int id, bool show)
 {
-    for (QMap<CSFButton*, int>* reg : { &m_environmentButtons, &m_deleteButtons, &m_operateButtons }) {
+    for (QMap<CSFButton*, int>* reg :
+         { &m_environmentButtons, &m_deleteButtons, &m_operateButtons }) {
         for (auto it = reg->cbegin(); it != reg->cend(); ++it) {
             if (it.value() == row && m_cellControls.value(it.key()).id == id)
                 it.key()->ShowWindow(show ? 1 : 0);
@@ -239,7 +240,8 @@ void CSFQTListCtrl::SetItemShow(int row, int, unsigned int id, bool show)
 
 void CSFQTListCtrl::SetBtnEnable(int id, bool enable)
 {
-    for (QMap<CSFButton*, int>* reg : { &m_environmentButtons, &m_deleteButtons, &m_operateButtons }) {
+    for (QMap<CSFButton*, int>* reg :
+         { &m_environmentButtons, &m_deleteButtons, &m_operateButtons }) {
         for (auto it = reg->cbegin(); it != reg->cend(); ++it) {
             if (m_cellControls.value(it.key()).id == static_cast<unsigned int>(id))
                 it.key()->EnableWindow(enable ? 1 : 0);

@@ -27,8 +27,7 @@ QWidget* CSFQTListRowDelegate::createEditor(QWidget* parent, const QStyleOptionV
     return editor;
 }
 
-void CSFQTListRowDelegate::updateEditorGeometry(QWidget* editor,
-                                                const QStyleOptionViewItem& option,
+void CSFQTListRowDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
                                                 const QModelIndex&) const
 {
     // Qt asks again for every cell page on each layout; moving a page to

@@ -13,11 +13,11 @@
 #include <QVariant>
 
 CSFQTMainWindow::CSFQTMainWindow(ISFDialogEvent* handler, QWidget* parent)
-    : CSFQTSkinWindow<QMainWindow, CSFQTMainWindow>(handler, parent, true), m_pResizeAnimation(nullptr),
-      m_maximised(false)
+    : CSFQTSkinWindow<QMainWindow, CSFQTMainWindow>(handler, parent, true),
+      m_pResizeAnimation(nullptr), m_maximised(false)
 {
-    setWindowFlags(Qt::FramelessWindowHint | Qt::WindowSystemMenuHint
-                   | Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint);
+    setWindowFlags(Qt::FramelessWindowHint | Qt::WindowSystemMenuHint |
+                   Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint);
     SFNameControl(this, "mainwindow", static_cast<unsigned int>(-1), QString());
     m_restoreRect = geometry();
     // Queued, so a caption button acts after its mouse event has returned.
@@ -166,15 +166,15 @@ void CSFQTMainWindow::closeEvent(QCloseEvent* e)
 {
     const bool wasVisible = isVisible();
     CSFQTSkinWindow<QMainWindow, CSFQTMainWindow>::closeEvent(e);
-    if (!e->isAccepted() || wasVisible || !QGuiApplication::quitOnLastWindowClosed()
-        || !testAttribute(Qt::WA_QuitOnClose))
+    if (!e->isAccepted() || wasVisible || !QGuiApplication::quitOnLastWindowClosed() ||
+        !testAttribute(Qt::WA_QuitOnClose))
         return;
     // Qt 6 ends the event loop only for a window closed while visible, and
     // the close button hides the window before it closes it.
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (QWidget* w : windows) {
-        if (w != this && w->isVisible() && w->testAttribute(Qt::WA_QuitOnClose)
-            && w->windowType() != Qt::Popup && w->windowType() != Qt::ToolTip)
+        if (w != this && w->isVisible() && w->testAttribute(Qt::WA_QuitOnClose) &&
+            w->windowType() != Qt::Popup && w->windowType() != Qt::ToolTip)
             return;
     }
     QCoreApplication::quit();

@@ -67,24 +67,24 @@ void CSFQTNumSpiner::StepDown()
 QString CSFQTNumSpiner::SkinStyleSheet(const ImageNumSpinerStyle& s)
 {
     const auto url = [](const std::wstring& file) { return SFCssQuoted(SFSkinFilePath(file)); };
-    return QStringLiteral("QSpinBox { padding: 0 8px; border-image: url(") + url(s.strFrame)
-         + QStringLiteral(");}")
-         + QStringLiteral("QSpinBox::up-button {width: 21px; border-image: url(") + url(s.strUpNormal)
-         + QStringLiteral(");}")
-         + QStringLiteral("QSpinBox::up-button:hover {border-image: url(") + url(s.strUpNormal)
-         + QStringLiteral(");}")
-         + QStringLiteral("QSpinBox::up-button:pressed {border-image: url(") + url(s.strUpPressed)
-         + QStringLiteral(");}")
-         + QStringLiteral("QSpinBox::up-button:disabled {border-image: url(") + url(s.strUpDisabled)
-         + QStringLiteral(");}")
-         + QStringLiteral("QSpinBox::down-button {width: 21px; border-image: url(")
-         + url(s.strDownNormal) + QStringLiteral(");}")
-         + QStringLiteral("QSpinBox::down-button:hover {border-image: url(") + url(s.strDownNormal)
-         + QStringLiteral(");}")
-         + QStringLiteral("QSpinBox::down-button:pressed {border-image: url(")
-         + url(s.strDownPressed) + QStringLiteral(");}")
-         + QStringLiteral("QSpinBox::down-button:disabled {border-image: url(")
-         + url(s.strDownDisabled) + QStringLiteral(");}");
+    return QStringLiteral("QSpinBox { padding: 0 8px; border-image: url(") + url(s.strFrame) +
+           QStringLiteral(");}") +
+           QStringLiteral("QSpinBox::up-button {width: 21px; border-image: url(") +
+           url(s.strUpNormal) + QStringLiteral(");}") +
+           QStringLiteral("QSpinBox::up-button:hover {border-image: url(") + url(s.strUpNormal) +
+           QStringLiteral(");}") +
+           QStringLiteral("QSpinBox::up-button:pressed {border-image: url(") + url(s.strUpPressed) +
+           QStringLiteral(");}") +
+           QStringLiteral("QSpinBox::up-button:disabled {border-image: url(") +
+           url(s.strUpDisabled) + QStringLiteral(");}") +
+           QStringLiteral("QSpinBox::down-button {width: 21px; border-image: url(") +
+           url(s.strDownNormal) + QStringLiteral(");}") +
+           QStringLiteral("QSpinBox::down-button:hover {border-image: url(") +
+           url(s.strDownNormal) + QStringLiteral(");}") +
+           QStringLiteral("QSpinBox::down-button:pressed {border-image: url(") +
+           url(s.strDownPressed) + QStringLiteral(");}") +
+           QStringLiteral("QSpinBox::down-button:disabled {border-image: url(") +
+           url(s.strDownDisabled) + QStringLiteral(");}");
 }
 
 int CSFQTNumSpiner::SetSkin(ImageNumSpinerStyle* style)

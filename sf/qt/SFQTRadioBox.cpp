@@ -146,8 +146,7 @@ void CSFQTRadioBox::OnClicked(bool checked, QPoint pt)
     QPointer<CSFQTRadioBox> alive(this);
     if (m_pHandler)
         m_pHandler->RADIO_OnClicked(checked ? 1 : 0, static_cast<int>(m_nID),
-                                    tagPOINT{ pt.x(), pt.y() },
-                                    static_cast<CSFRadioBox*>(this));
+                                    tagPOINT{ pt.x(), pt.y() }, static_cast<CSFRadioBox*>(this));
     if (alive)
         SFSendCommandEvent(this, m_nID);
 }

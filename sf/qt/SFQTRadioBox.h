@@ -2,9 +2,9 @@
 // The image toggle: a release inside flips it and reports; grouping several
 // into a real radio group is the page's business.
 
+#include "sf/SFRadioBox.h"
 #include "sf/qt/SFPicFade.h"
 #include "sf/qt/SFQTToggle.h"
-#include "sf/SFRadioBox.h"
 
 #include <QColor>
 #include <QFont>

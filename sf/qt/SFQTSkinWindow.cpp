@@ -1,13 +1,12 @@
 #include "sf/qt/SFQTSkinWindow.h"
 
-#include "sf/qt/SFQTDialog.h"
-#include "sf/qt/SFQTMainWindow.h"
-
 #include "sf/qt/SFApplication.h"
 #include "sf/qt/SFCustomEvent.h"
 #include "sf/qt/SFEventDispatch.h"
 #include "sf/qt/SFKeyMap.h"
 #include "sf/qt/SFLog.h"
+#include "sf/qt/SFQTDialog.h"
+#include "sf/qt/SFQTMainWindow.h"
 #include "sf/qt/SFQtConvert.h"
 #include "sf/qt/SFSkinParse.h"
 
@@ -35,7 +34,8 @@
 #include <string>
 
 template <class QtBase, class Window>
-CSFQTSkinWindow<QtBase, Window>::CSFQTSkinWindow(ISFDialogEvent* handler, QWidget* parent, bool mainWindow)
+CSFQTSkinWindow<QtBase, Window>::CSFQTSkinWindow(ISFDialogEvent* handler, QWidget* parent,
+                                                 bool mainWindow)
     : QtBase(parent), CSFDialog(handler), m_bMainWindow(mainWindow), m_pTitle(nullptr),
       m_bDrag(false), m_nCurButton(0), m_nButtonState(0), m_nNcLBtnDown(0)
 {
@@ -197,7 +197,7 @@ int CSFQTSkinWindow<QtBase, Window>::DlgIsWindow()
 
 template <class QtBase, class Window>
 int CSFQTSkinWindow<QtBase, Window>::SetDlgWindowPos(void*, int x, int y, int cx, int cy,
-                                             unsigned int flags)
+                                                     unsigned int flags)
 {
     const QRect g = this->geometry();
     if (flags & 2u) {
@@ -597,7 +597,8 @@ void CSFQTSkinWindow<QtBase, Window>::keyPressEvent(QKeyEvent* e)
     // The base class is left out so that Esc does not close a dialog by itself.
     if (!m_pHandler)
         return;
-    const unsigned int key = m_bMainWindow ? SFMapMainWindowKey(e->key()) : SFMapDialogKey(e->key());
+    const unsigned int key =
+        m_bMainWindow ? SFMapMainWindowKey(e->key()) : SFMapDialogKey(e->key());
     m_pHandler->OnDlgKeyDown(SFMapKeyModifiers(e->modifiers()), key);
 }
 

@@ -24,9 +24,9 @@ constexpr unsigned int kDtSingleLine = 0x20;
 
 CSFQTStatic::CSFQTStatic(ISFStaticEvent* handler, QWidget* parent)
     : CSFQTControl(handler, parent), m_textColor(0, 0, 0), m_bold(0),
-      m_textFlags(int(Qt::AlignLeft) | int(Qt::AlignVCenter) | int(Qt::TextSingleLine)), m_fontPixels(12),
-      m_bgEnabled(0), m_textOffset(0), m_wordWrap(0), m_wrapAnywhere(0), m_tooltipEnabled(1),
-      m_twinkleMs(kDefaultTwinkleMs)
+      m_textFlags(int(Qt::AlignLeft) | int(Qt::AlignVCenter) | int(Qt::TextSingleLine)),
+      m_fontPixels(12), m_bgEnabled(0), m_textOffset(0), m_wordWrap(0), m_wrapAnywhere(0),
+      m_tooltipEnabled(1), m_twinkleMs(kDefaultTwinkleMs)
 {
 }
 
@@ -36,8 +36,8 @@ CSFQTStatic::~CSFQTStatic()
         m_animation->stop();
 }
 
-int CSFQTStatic::Create(const wchar_t* text, unsigned long style, const tagRECT& rect,
-                        void* parent, unsigned int id)
+int CSFQTStatic::Create(const wchar_t* text, unsigned long style, const tagRECT& rect, void* parent,
+                        unsigned int id)
 {
     const QString label = SFToQString(text);
     setText(label);
@@ -80,7 +80,8 @@ void CSFQTStatic::SetTextAlignFlag(unsigned int flags)
     if (flags & kDtVCenter)
         result |= int(Qt::AlignVCenter);
     if (flags & kDtWordBreak)
-        result = (result & ~int(Qt::TextSingleLine)) | int(Qt::TextWordWrap) | int(Qt::TextDontClip);
+        result =
+            (result & ~int(Qt::TextSingleLine)) | int(Qt::TextWordWrap) | int(Qt::TextDontClip);
     if (flags & kDtSingleLine)
         result = (result & ~int(Qt::TextWordWrap)) | int(Qt::TextSingleLine);
     if (result == 0)
@@ -240,8 +241,9 @@ QFont CSFQTStatic::PaintFont() const
 void CSFQTStatic::GrowToText(const QFont& font)
 {
     const QRect current = geometry();
-    const QRect bounds = QFontMetrics(font).boundingRect(
-        QRect(0, 0, current.width(), current.height()), m_textFlags, text());
+    const QRect bounds =
+        QFontMetrics(font).boundingRect(QRect(0, 0, current.width(), current.height()), m_textFlags,
+                                        text());
     const int w = std::max(current.width(), bounds.width());
     const int h = std::max(current.height(), bounds.height());
     if (w != current.width() || h != current.height())

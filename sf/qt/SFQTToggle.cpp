@@ -1,8 +1,8 @@
 #include "sf/qt/SFQTToggle.h"
 
 #include "sf/SFCheckBox.h"
-#include "sf/qt/SFQtConvert.h"
 #include "sf/SFRadioBox.h"
+#include "sf/qt/SFQtConvert.h"
 
 #include <QEnterEvent>
 #include <QMouseEvent>

@@ -3,10 +3,10 @@
 // picked by state and check, and a release inside that flips the check and
 // reports it. Qt's own check follows m_checked, never the other way round.
 
+#include "platform/WinTypes.h"
 #include "sf/ImageRadioBox.h"
 #include "sf/qt/SFQTControl.h"
 #include "sf/qt/SFToggleSkin.h"
-#include "platform/WinTypes.h"
 
 #include <QPoint>
 
@@ -36,8 +36,8 @@ protected:
     // kind names the control at Create: "<kind>_<id>".
     template <class Handler>
     CSFQTToggle(Handler* handler, QWidget* parent, const char* kind)
-        : CSFQTControl<QtButton, Facade>(handler, parent), m_state(CSFToggleSkin::StateNormal), m_checked(0),
-          m_kind(kind)
+        : CSFQTControl<QtButton, Facade>(handler, parent), m_state(CSFToggleSkin::StateNormal),
+          m_checked(0), m_kind(kind)
     {
         this->setCheckable(true);
     }

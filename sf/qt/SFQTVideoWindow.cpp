@@ -25,11 +25,10 @@ int SmallNumber(const std::wstring& text, int max)
 } // namespace
 
 CSFQTVideoWindow::CSFQTVideoWindow(ISFVideoWindowEvent* handler, QWidget* parent)
-    : CSFQTControl(handler, parent), m_nGridRows(1), m_nGridCols(1),
-      m_nProportionX(0), m_nProportionY(0), m_nCurrentIndex(0), m_nZoomIndex(-1),
-      m_nNextSubWinID(0), m_nDragMode(0), m_nActiveCheckMode(0), m_nCursorNormal(0),
-      m_nCursorDragging(0), m_bFrameZoom(false), m_bSubWinCtrlsVisible(true),
-      m_bSubWinExchange(true), m_nDragFrom(-1), m_pDropTarget(nullptr)
+    : CSFQTControl(handler, parent), m_nGridRows(1), m_nGridCols(1), m_nProportionX(0),
+      m_nProportionY(0), m_nCurrentIndex(0), m_nZoomIndex(-1), m_nNextSubWinID(0), m_nDragMode(0),
+      m_nActiveCheckMode(0), m_nCursorNormal(0), m_nCursorDragging(0), m_bFrameZoom(false),
+      m_bSubWinCtrlsVisible(true), m_bSubWinExchange(true), m_nDragFrom(-1), m_pDropTarget(nullptr)
 {
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
@@ -291,8 +290,8 @@ void CSFQTVideoWindow::SetFocus(int focus)
         clearFocus();
 }
 
-int CSFQTVideoWindow::RenderSubWin(int index, unsigned char* data, RENDER_DATA_TYPE type,
-                                   int width, int height)
+int CSFQTVideoWindow::RenderSubWin(int index, unsigned char* data, RENDER_DATA_TYPE type, int width,
+                                   int height)
 {
     CSFQTVideoWindowSubWnd* sub = SubWindow(index);
     if (!sub || !data || type != RENDER_DATA_RGB32 || width <= 0 || height <= 0 ||

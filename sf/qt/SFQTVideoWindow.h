@@ -3,8 +3,8 @@
 
 #include "sf/ISFRadioBoxEvent.h"
 #include "sf/ImageVideoWindowStyle.h"
-#include "sf/qt/QTVideoWindowLayout.h"
 #include "sf/SFVideoWindow.h"
+#include "sf/qt/QTVideoWindowLayout.h"
 #include "sf/qt/SFQTControl.h"
 
 #include <QColor>
@@ -15,8 +15,7 @@
 
 class CSFQTVideoWindowSubWnd;
 
-class CSFQTVideoWindow : public CSFQTControl<QWidget, CSFVideoWindow>,
-                         public ISFRadioBoxEvent {
+class CSFQTVideoWindow : public CSFQTControl<QWidget, CSFVideoWindow>, public ISFRadioBoxEvent {
     Q_OBJECT
 public:
     // The style record read into what painting needs.

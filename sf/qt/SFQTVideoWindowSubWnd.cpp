@@ -5,10 +5,10 @@
 #include "sf/SFButton.h"
 #include "sf/SFControlTypes.h"
 #include "sf/SFFactory.h"
+#include "sf/SFRadioBox.h"
 #include "sf/qt/SFQTVideoWindow.h"
 #include "sf/qt/SFQTVideoWindowPlayWnd.h"
 #include "sf/qt/SFQtConvert.h"
-#include "sf/SFRadioBox.h"
 
 #include <QMouseEvent>
 #include <QPainter>

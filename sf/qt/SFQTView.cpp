@@ -109,9 +109,9 @@ void CSFQTView::SetRoundCornerRadius(unsigned int radius)
 
 void CSFQTView::SetBGClr(unsigned int color)
 {
-    m_bgColor = QColor(static_cast<int>(color & 0xFFu), static_cast<int>((color >> 8) & 0xFFu),
-                       static_cast<int>((color >> 16) & 0xFFu),
-                       static_cast<int>(~(color >> 24) & 0xFFu));
+    m_bgColor =
+        QColor(static_cast<int>(color & 0xFFu), static_cast<int>((color >> 8) & 0xFFu),
+               static_cast<int>((color >> 16) & 0xFFu), static_cast<int>(~(color >> 24) & 0xFFu));
     update();
 }
 

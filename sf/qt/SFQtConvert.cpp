@@ -1,7 +1,7 @@
 #include "sf/qt/SFQtConvert.h"
 
-#include "sf/SFControlTypes.h"
 #include "language/SFStreamConvert.h"
+#include "sf/SFControlTypes.h"
 #include "sf/SFWrapMath.h"
 
 #include <QWidget>

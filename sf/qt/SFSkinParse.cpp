@@ -52,8 +52,8 @@ QRect SFParseRect(const wchar_t* text)
         return QRect(QPoint(0, 0), QPoint(-1, -1));
     int x = 0, y = 0, w = 0, h = 0;
     std::swscanf(text, L"%d,%d,%d,%d", &x, &y, &w, &h);
-    return QRect(QPoint(x, y), QPoint(ClampToInt(std::int64_t(x) + w - 1),
-                                      ClampToInt(std::int64_t(y) + h - 1)));
+    return QRect(QPoint(x, y),
+                 QPoint(ClampToInt(std::int64_t(x) + w - 1), ClampToInt(std::int64_t(y) + h - 1)));
 }
 
 QRect SFParseRect(const std::wstring& text)
@@ -93,8 +93,8 @@ QString SFCssQuoted(const QString& text)
     quoted += QLatin1Char('"');
     for (const QChar c : text) {
         // Qt's style-sheet scanner drops the backslash before any character.
-        if (c == QLatin1Char('"') || c == QLatin1Char('\\') || c == QLatin1Char('\n')
-            || c == QLatin1Char('\r') || c == QLatin1Char('\f'))
+        if (c == QLatin1Char('"') || c == QLatin1Char('\\') || c == QLatin1Char('\n') ||
+            c == QLatin1Char('\r') || c == QLatin1Char('\f'))
             quoted += QLatin1Char('\\');
         quoted += c;
     }

@@ -4,8 +4,8 @@ namespace {
 
 bool IsNameChar(QChar c)
 {
-    return c.isLetterOrNumber() || c == QLatin1Char('_') || c == QLatin1Char('#')
-        || c == QLatin1Char('.') || c == QLatin1Char('-');
+    return c.isLetterOrNumber() || c == QLatin1Char('_') || c == QLatin1Char('#') ||
+           c == QLatin1Char('.') || c == QLatin1Char('-');
 }
 
 // Index just past the terminator, or the end of the text.
@@ -40,31 +40,33 @@ QString SFBoundStyleSheetLengths(const QString& sheet, int limit)
             end = SkipPast(sheet, i + 2, QStringLiteral("*/"));
         } else if (c == QLatin1Char('"') || c == QLatin1Char('\'')) {
             end = SkipString(sheet, i);
-        } else if (depth > 0 && QStringView(sheet).mid(i, 4).compare(QLatin1String("url("), Qt::CaseInsensitive) == 0) {
+        } else if (depth > 0 && QStringView(sheet).mid(i, 4).compare(QLatin1String("url("),
+                                                                     Qt::CaseInsensitive) == 0) {
             end = SkipPast(sheet, i + 4, QStringLiteral(")"));
         } else if (c == QLatin1Char('{')) {
             ++depth;
         } else if (c == QLatin1Char('}')) {
             depth = qMax(0, depth - 1);
-        } else if (depth > 0 && (c.isDigit() || c == QLatin1Char('.'))
-                   && (i == 0 || !IsNameChar(sheet.at(i - 1)) || sheet.at(i - 1) == QLatin1Char('-'))) {
+        } else if (depth > 0 && (c.isDigit() || c == QLatin1Char('.')) &&
+                   (i == 0 || !IsNameChar(sheet.at(i - 1)) ||
+                    sheet.at(i - 1) == QLatin1Char('-'))) {
             // A number: digits with at most one point, then its unit.
             int digitsEnd = i;
             bool point = false;
-            while (digitsEnd < sheet.size()
-                   && (sheet.at(digitsEnd).isDigit()
-                       || (!point && sheet.at(digitsEnd) == QLatin1Char('.')))) {
+            while (digitsEnd < sheet.size() &&
+                   (sheet.at(digitsEnd).isDigit() ||
+                    (!point && sheet.at(digitsEnd) == QLatin1Char('.')))) {
                 point = point || sheet.at(digitsEnd) == QLatin1Char('.');
                 ++digitsEnd;
             }
             end = digitsEnd;
-            while (end < sheet.size()
-                   && (sheet.at(end).isLetter() || sheet.at(end) == QLatin1Char('%')))
+            while (end < sheet.size() &&
+                   (sheet.at(end).isLetter() || sheet.at(end) == QLatin1Char('%')))
                 ++end;
             const QString unit = sheet.mid(digitsEnd, end - digitsEnd).toLower();
             const bool relative = unit == QLatin1String("em") || unit == QLatin1String("ex");
-            const bool length = relative || unit.isEmpty() || unit == QLatin1String("px")
-                             || unit == QLatin1String("pt");
+            const bool length = relative || unit.isEmpty() || unit == QLatin1String("px") ||
+                                unit == QLatin1String("pt");
             const int bound = relative ? limit / 16 : limit;
             bool ok = false;
             const double value = sheet.mid(i, digitsEnd - i).toDouble(&ok);

@@ -16,8 +16,8 @@ bool CSFToggleSkin::Load(const ImageRadioBox* style)
     if (!style)
         return false;
     const std::wstring* names[8] = {
-        &style->strCheckedNormal,   &style->strCheckedHover,   &style->strCheckedPressed,
-        &style->strUncheckedNormal, &style->strUncheckedHover, &style->strUncheckedPressed,
+        &style->strCheckedNormal,   &style->strCheckedHover,      &style->strCheckedPressed,
+        &style->strUncheckedNormal, &style->strUncheckedHover,    &style->strUncheckedPressed,
         &style->strCheckedDisabled, &style->strUncheckedDisabled,
     };
     for (int i = 0; i < 8; ++i)

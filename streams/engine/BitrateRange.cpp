@@ -5,24 +5,25 @@
 #include <cstdint>
 #include <cstdlib>
 
-const char* const g_szRangeFrameRates[kRangeFrameRateCount] = {
-    "60", "55", "50", "45", "40", "35", "30", "25", "20", "15", "12",
-    "10", "9",  "8",  "7",  "6",  "5",  "4",  "3",  "2",  "1"};
+const char* const g_szRangeFrameRates[kRangeFrameRateCount] = { "60", "55", "50", "45", "40", "35",
+                                                                "30", "25", "20", "15", "12", "10",
+                                                                "9",  "8",  "7",  "6",  "5",  "4",
+                                                                "3",  "2",  "1" };
 
-const char* const g_szCodecNames[kCodecNameCount] = {
-    "MPEG4", "MS_MPEG4", "MPEG2", "MPEG1", "H263", "MJPG", "FCC_MPEG4", "H264"};
-const char* const g_szQualityNames[kQualityNameCount] = {
-    "Worst", "Worse", "Bad", "Good", "Better", "Best"};
+const char* const g_szCodecNames[kCodecNameCount] = { "MPEG4", "MS_MPEG4", "MPEG2",     "MPEG1",
+                                                      "H263",  "MJPG",     "FCC_MPEG4", "H264" };
+const char* const g_szQualityNames[kQualityNameCount] = { "Worst", "Worse",  "Bad",
+                                                          "Good",  "Better", "Best" };
 
 namespace {
 
 constexpr std::int64_t kCifNtscPixels = 352 * 240;
 constexpr std::int64_t kCifPalPixels = 352 * 288;
 
-}  // namespace
+} // namespace
 
-void GetBitrateRange(int resolutionIndex, int frameRateIndex, unsigned* minKbps,
-                     unsigned* maxKbps, int codec, int codecFlag, int fullFrameRate)
+void GetBitrateRange(int resolutionIndex, int frameRateIndex, unsigned* minKbps, unsigned* maxKbps,
+                     int codec, int codecFlag, int fullFrameRate)
 {
     std::int64_t full = fullFrameRate;
     if (full < 1)
@@ -59,15 +60,14 @@ int GetBitrateEstimate(int resolutionIndex, int frameRateIndex, int codec, int c
 {
     unsigned low = 0;
     unsigned high = 0;
-    GetBitrateRange(resolutionIndex, frameRateIndex, &low, &high, codec, codecFlag,
-                    fullFrameRate);
+    GetBitrateRange(resolutionIndex, frameRateIndex, &low, &high, codec, codecFlag, fullFrameRate);
     if (minKbps)
         *minKbps = low;
     if (maxKbps)
         *maxKbps = high;
     // Widened so the sum cannot overflow; the halving still truncates to zero.
-    const std::int64_t sum = static_cast<std::int64_t>(static_cast<std::int32_t>(low))
-                             + static_cast<std::int32_t>(high);
+    const std::int64_t sum =
+        static_cast<std::int64_t>(static_cast<std::int32_t>(low)) + static_cast<std::int32_t>(high);
     return static_cast<int>(sum / 2);
 }
 

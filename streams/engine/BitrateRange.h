@@ -8,8 +8,8 @@ extern const char* const g_szRangeFrameRates[kRangeFrameRateCount];
 
 // resolutionIndex 1 is the largest size of the bNtsc-zero list; index 0 or a
 // frame-rate index of 0 gives 0 and 0. fullFrameRate outside 1..149 means 50.
-void GetBitrateRange(int resolutionIndex, int frameRateIndex, unsigned* minKbps,
-                     unsigned* maxKbps, int codec, int codecFlag, int fullFrameRate);
+void GetBitrateRange(int resolutionIndex, int frameRateIndex, unsigned* minKbps, unsigned* maxKbps,
+                     int codec, int codecFlag, int fullFrameRate);
 
 // Mean of the span that GetBitrateRange gives, which it also hands out.
 int GetBitrateEstimate(int resolutionIndex, int frameRateIndex, int codec, int codecFlag,

@@ -3,14 +3,14 @@
 // stays silent, so its follow-up runs here.
 #include "streams/rows/ChannelRowBinder.h"
 
-#include "streams/engine/BitrateEstimate.h"
-#include "streams/engine/ChannelRowRules.h"
 #include "sf/ISFListCtrlEvent.h"
 #include "sf/SFButton.h"
 #include "sf/SFComboBox.h"
 #include "sf/SFEditCtrl.h"
 #include "sf/SFListCtrlIds.h"
 #include "sf/SFNumSpiner.h"
+#include "streams/engine/BitrateEstimate.h"
+#include "streams/engine/ChannelRowRules.h"
 
 #include <cstddef>
 
@@ -131,8 +131,7 @@ void CChannelRowBinder::ComboButtonClicked(ISFListRowCells& cells, int row)
 
 // Each repair is written back and comes back here as a new event before this
 // one goes on.
-void CChannelRowBinder::ComboEditChanged(ISFListRowCells& cells, int row,
-                                         const std::wstring& text)
+void CChannelRowBinder::ComboEditChanged(ISFListRowCells& cells, int row, const std::wstring& text)
 {
     CSFEditCtrl* edit = cells.RowComboEdit(row);
     if (!edit)
@@ -190,8 +189,7 @@ void CChannelRowBinder::Update(ISFListRowCells& cells, int row)
         UpdateRow(cells, row, 0, 0);
 }
 
-void CChannelRowBinder::UpdateRow(ISFListRowCells& cells, int row, int totalsOnly,
-                                  int keepRowText)
+void CChannelRowBinder::UpdateRow(ISFListRowCells& cells, int row, int totalsOnly, int keepRowText)
 {
     if (!totalsOnly) {
         const int compression = ComboIndex(cells.RowCombo(ComboCompression, row));
@@ -200,15 +198,13 @@ void CChannelRowBinder::UpdateRow(ISFListRowCells& cells, int row, int totalsOnl
         CSFComboBox* frameRateCombo = cells.RowCombo(ComboFrameRate, row);
         const int frameIndex = ComboIndex(frameRateCombo);
         // Resolution and frame rate stand or fall together.
-        const int resolution =
-            RowResolutionAfterFrameRate(ComboIndex(resolutionCombo), frameIndex);
+        const int resolution = RowResolutionAfterFrameRate(ComboIndex(resolutionCombo), frameIndex);
         if (frameIndex == 0 && resolutionCombo)
             resolutionCombo->SetCurSel(0);
         const int frameRate =
-            frameRateCombo
-                ? RowFrameRateValue(frameIndex,
-                                    SFEditText(cells.RowComboEdit(row), kRowBitrateMaxChars))
-                : 0;
+            frameRateCombo ? RowFrameRateValue(frameIndex, SFEditText(cells.RowComboEdit(row),
+                                                                      kRowBitrateMaxChars))
+                           : 0;
         const double value = EstimateRowBitrate(compression, scene, resolution, frameRate,
                                                 cells.RowChecked(row) != 0, cells.Area());
         CSFEditCtrl* bitrate = cells.RowEdit(row);

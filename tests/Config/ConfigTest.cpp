@@ -4,7 +4,6 @@
 #include "Config/ConfigXMLPersistImp.h"
 #include "Config/VexUISetting.h"
 #include "Config/VexUISettingItem.h"
-
 #include "tests/support/BadXml.h"
 #include "tests/support/TempDir.h"
 
@@ -60,25 +59,34 @@ struct FileCase {
     DWORD expected;
 };
 
-void PrintTo(const FileCase& c, std::ostream* os) { *os << c.name; }
+void PrintTo(const FileCase& c, std::ostream* os)
+{
+    *os << c.name;
+}
 
 const FileCase kFileCases[] = {
-    {"TruncatedInValue", "<Setting><UIConfig><RecordblePersentage value=\"8", 90},
-    {"WrongRootName", "<Other><UIConfig><RecordblePersentage value=\"85\"/></UIConfig></Other>", 85},
-    {"NoRoot", "<UIConfig><RecordblePersentage value=\"85\"/></UIConfig>", 90},
-    {"DeclarationHead", "<?xml version=\"1.0\" ?>" + WithValue("85"), 90},
-    {"CommentHead", "<!-- settings -->" + WithValue("85"), 90},
-    {"CommentInside",
-     "<Setting><!-- c --><UIConfig><!-- c --><RecordblePersentage value=\"85\"/></UIConfig></Setting>", 85},
-    {"Nested50000AfterSetting", WithValue("85") + Nested(50000), 90},
-    {"TenMegabytesBeforeSetting", "<Pad>" + std::string(10 * 1024 * 1024, 'x') + "</Pad>" + WithValue("85"), 90},
-    {"Value85", WithValue("85"), 85},
-    {"Value150NoRange", WithValue("150"), 150},
-    {"ValueZero", WithValue("0"), 0},
-    {"ValueNotNumber", WithValue("abc"), 90},
-    {"ValueAbsent", "<Setting><UIConfig><RecordblePersentage Default=\"85\"/></UIConfig></Setting>", 90},
-    {"OtherSection", "<Setting><Other><RecordblePersentage value=\"85\"/></Other></Setting>", 90},
-    {"CrLf", "<Setting>\r\n<UIConfig>\r\n<RecordblePersentage value=\"85\"/>\r\n</UIConfig>\r\n</Setting>\r\n", 85},
+    { "TruncatedInValue", "<Setting><UIConfig><RecordblePersentage value=\"8", 90 },
+    { "WrongRootName", "<Other><UIConfig><RecordblePersentage value=\"85\"/></UIConfig></Other>",
+      85 },
+    { "NoRoot", "<UIConfig><RecordblePersentage value=\"85\"/></UIConfig>", 90 },
+    { "DeclarationHead", "<?xml version=\"1.0\" ?>" + WithValue("85"), 90 },
+    { "CommentHead", "<!-- settings -->" + WithValue("85"), 90 },
+    { "CommentInside",
+      "<Setting><!-- c --><UIConfig><!-- c --><RecordblePersentage value=\"85\"/></UIConfig></Setting>",
+      85 },
+    { "Nested50000AfterSetting", WithValue("85") + Nested(50000), 90 },
+    { "TenMegabytesBeforeSetting",
+      "<Pad>" + std::string(10 * 1024 * 1024, 'x') + "</Pad>" + WithValue("85"), 90 },
+    { "Value85", WithValue("85"), 85 },
+    { "Value150NoRange", WithValue("150"), 150 },
+    { "ValueZero", WithValue("0"), 0 },
+    { "ValueNotNumber", WithValue("abc"), 90 },
+    { "ValueAbsent",
+      "<Setting><UIConfig><RecordblePersentage Default=\"85\"/></UIConfig></Setting>", 90 },
+    { "OtherSection", "<Setting><Other><RecordblePersentage value=\"85\"/></Other></Setting>", 90 },
+    { "CrLf",
+      "<Setting>\r\n<UIConfig>\r\n<RecordblePersentage value=\"85\"/>\r\n</UIConfig>\r\n</Setting>\r\n",
+      85 },
 };
 
 class ConfigFileTest : public ConfigDirTest, public ::testing::WithParamInterface<FileCase> {};
@@ -143,7 +151,10 @@ struct ScaledCase {
     DWORD expected;
 };
 
-void PrintTo(const ScaledCase& c, std::ostream* os) { *os << c.fileValue; }
+void PrintTo(const ScaledCase& c, std::ostream* os)
+{
+    *os << c.fileValue;
+}
 
 class ScaledSetting : public VexUISetting {
 public:
@@ -167,10 +178,10 @@ TEST_P(ScaledRangeTest, ClampsIntoScaledBounds)
 }
 
 INSTANTIATE_TEST_SUITE_P(Values, ScaledRangeTest,
-                         ::testing::Values(ScaledCase{"9000", 4096}, ScaledCase{"100", 1024},
-                                           ScaledCase{"1024", 1024}, ScaledCase{"4096", 4096},
-                                           ScaledCase{"2000", 2000}, ScaledCase{"abc", 2048},
-                                           ScaledCase{"-1", 4096}),
+                         ::testing::Values(ScaledCase{ "9000", 4096 }, ScaledCase{ "100", 1024 },
+                                           ScaledCase{ "1024", 1024 }, ScaledCase{ "4096", 4096 },
+                                           ScaledCase{ "2000", 2000 }, ScaledCase{ "abc", 2048 },
+                                           ScaledCase{ "-1", 4096 }),
                          [](const ::testing::TestParamInfo<ScaledCase>& info) {
                              return "Index" + std::to_string(info.index);
                          });

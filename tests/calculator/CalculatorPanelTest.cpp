@@ -2,8 +2,8 @@
 // choices and typing: mode switches, the typed capacity, the weekly plan, the
 // bay lists of the RAID modes, and what each mode answers.
 
-#include "calculator/CalculatorBottom.h"
 #include "Config/VexUISetting.h"
+#include "calculator/CalculatorBottom.h"
 #include "sf/SFRadioBox.h"
 #include "sf/qt/SFQTStatic.h"
 #include "tests/streams/PageTestSupport.h"
@@ -12,7 +12,6 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QTest>
-
 #include <functional>
 #include <gtest/gtest.h>
 #include <set>
@@ -78,10 +77,7 @@ public:
     {
         return Edit(Panel::ID_EDIT_DAY_HOURS_FIRST + static_cast<unsigned int>(day));
     }
-    QWidget* DayLabel(int day) const
-    {
-        return Find(Panel::kNameDayPrefix + std::to_string(day));
-    }
+    QWidget* DayLabel(int day) const { return Find(Panel::kNameDayPrefix + std::to_string(day)); }
     CSFQTStatic* ValueLabel() const
     {
         return dynamic_cast<CSFQTStatic*>(Find(Panel::kNameResultValue));
@@ -132,9 +128,9 @@ TEST_F(CalculatorPanelTest, ClickingTheCurrentRadioChangesNothing)
         const std::string value = Value();
         SwitchTo(mode);
         for (int other = 0; other < 4; ++other)
-            EXPECT_EQ(dynamic_cast<CSFRadioBox*>(ById("radio", Panel::kModeRadioIds[other]))
-                          ->GetCheck(),
-                      other == mode ? 1 : 0)
+            EXPECT_EQ(
+                dynamic_cast<CSFRadioBox*>(ById("radio", Panel::kModeRadioIds[other]))->GetCheck(),
+                other == mode ? 1 : 0)
                 << mode;
         EXPECT_EQ(Value(), value);
         // No layout ran, so nothing was recalculated or flashed.
@@ -190,7 +186,8 @@ void PrintTo(const DayEntry& entry, std::ostream* os)
     *os << entry.name;
 }
 
-class CalculatorDayEdit : public CalculatorPanelTest, public testing::WithParamInterface<DayEntry> {};
+class CalculatorDayEdit : public CalculatorPanelTest,
+                          public testing::WithParamInterface<DayEntry> {};
 
 TEST_P(CalculatorDayEdit, KeepsHoursWithinADay)
 {
@@ -263,7 +260,8 @@ TEST_F(CalculatorPanelTest, BayCountSurvivesDeviceAndLevelChanges)
 
     // RAID 5 on this device offers no 16: the list falls back to its first.
     Choose(Panel::ID_COMBO_RAID_LEVEL, "RAID 5");
-    EXPECT_EQ(Items(Combo(Panel::ID_COMBO_RAID_BAYS)), (std::vector<std::string>{ "24 bay", "36 bay", "48 bay" }));
+    EXPECT_EQ(Items(Combo(Panel::ID_COMBO_RAID_BAYS)),
+              (std::vector<std::string>{ "24 bay", "36 bay", "48 bay" }));
     EXPECT_EQ(Current(Combo(Panel::ID_COMBO_RAID_BAYS)), "24 bay");
     EXPECT_EQ(Value(), "18.00TB");
 
@@ -300,7 +298,8 @@ void PrintTo(const AnswerCase& c, std::ostream* os)
     *os << c.name;
 }
 
-class CalculatorAnswer : public CalculatorPanelTest, public testing::WithParamInterface<AnswerCase> {};
+class CalculatorAnswer : public CalculatorPanelTest,
+                         public testing::WithParamInterface<AnswerCase> {};
 
 TEST_P(CalculatorAnswer, ComesFromTheControlsAndFlashes)
 {
@@ -323,7 +322,9 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         AnswerCase{ "DiskZeroRate", 0, 0, nullptr, "Request Capacity:", "0.00GB", false },
         AnswerCase{ "DiskSevenDays", 0, 2048,
-                    [](CalculatorPanelTest& t) { t.EnterNumber(t.ById("spinner", Panel::ID_SPIN_DAYS), 7); },
+                    [](CalculatorPanelTest& t) {
+                        t.EnterNumber(t.ById("spinner", Panel::ID_SPIN_DAYS), 7);
+                    },
                     "Request Capacity:", "147.66GB", true },
         AnswerCase{ "DaysZeroRate", 1, 0, nullptr, "Recording Days:", "0 Day 0 Hour", true },
         AnswerCase{ "RaidMqs71Raid5", 2, 0,
@@ -343,9 +344,10 @@ INSTANTIATE_TEST_SUITE_P(
                         t.Choose(t.Raid2Disk(), "8 TB");
                     },
                     "Need:", "1 Device", true },
-        AnswerCase{ "DevicesMany", 3, 409600,
-                    [](CalculatorPanelTest& t) { t.EnterNumber(t.Find(Panel::kNameRaid2Days), 30); },
-                    "Need:", "35 Devices", true }),
+        AnswerCase{
+            "DevicesMany", 3, 409600,
+            [](CalculatorPanelTest& t) { t.EnterNumber(t.Find(Panel::kNameRaid2Days), 30); },
+            "Need:", "35 Devices", true }),
     [](const testing::TestParamInfo<AnswerCase>& info) { return std::string(info.param.name); });
 
 TEST_F(CalculatorPanelTest, RecordablePercentageMovesOnlyTheRecordingDays)

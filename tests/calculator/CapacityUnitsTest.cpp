@@ -1,14 +1,14 @@
-#include <gtest/gtest.h>
+#include "calculator/engine/CapacityUnits.h"
+
+#include "calculator/engine/BoundedFormat.h"
+#include "calculator/engine/DiskRequirement.h"
+#include "calculator/engine/SaturatingTruncate.h"
 
 #include <climits>
 #include <cmath>
+#include <gtest/gtest.h>
 #include <limits>
 #include <string>
-
-#include "calculator/engine/BoundedFormat.h"
-#include "calculator/engine/CapacityUnits.h"
-#include "calculator/engine/DiskRequirement.h"
-#include "calculator/engine/SaturatingTruncate.h"
 
 namespace {
 
@@ -26,22 +26,23 @@ TEST_P(UnitTextTest, StepsAboveTenThousandOfTheCurrentUnit)
     EXPECT_EQ(GetParam().format(GetParam().dAmount), GetParam().pszText);
 }
 
-INSTANTIATE_TEST_SUITE_P(Units, UnitTextTest, ::testing::Values(
-    UnitCase{FormatCapacityGB, 147.65625, L"147.66GB"},
-    UnitCase{FormatCapacityGB, 10000.0, L"10000.00GB"},
-    UnitCase{FormatCapacityGB, 10000.001, L"9.77TB"},
-    // 10000 TB stays in TB, one step more goes to PB.
-    UnitCase{FormatCapacityGB, 10000.0 * 1024, L"10000.00TB"},
-    UnitCase{FormatCapacityGB, 10001.0 * 1024, L"9.77PB"},
-    UnitCase{FormatCapacityGB, 10001.0 * 1024 * 1024, L"9.77EB"},
-    // EB is the last unit: no further step however large.
-    UnitCase{FormatCapacityGB, 1e20, L"93132257461.55EB"},
-    UnitCase{FormatTotalBitrate, 10000.0, L"10000.00 kbps"},
-    UnitCase{FormatTotalBitrate, 10001.0, L"9.77 Mbps"},
-    // 10240000 kbps is exactly 10000 Mbps and so stays in Mbps.
-    UnitCase{FormatTotalBitrate, 10240000.0, L"10000.00 Mbps"},
-    UnitCase{FormatTotalBitrate, 10240001.0, L"9.77 Gbps"},
-    UnitCase{FormatTotalBitrate, 20000000000.0, L"19073.49 Gbps"}));
+INSTANTIATE_TEST_SUITE_P(
+    Units, UnitTextTest,
+    ::testing::Values(UnitCase{ FormatCapacityGB, 147.65625, L"147.66GB" },
+                      UnitCase{ FormatCapacityGB, 10000.0, L"10000.00GB" },
+                      UnitCase{ FormatCapacityGB, 10000.001, L"9.77TB" },
+                      // 10000 TB stays in TB, one step more goes to PB.
+                      UnitCase{ FormatCapacityGB, 10000.0 * 1024, L"10000.00TB" },
+                      UnitCase{ FormatCapacityGB, 10001.0 * 1024, L"9.77PB" },
+                      UnitCase{ FormatCapacityGB, 10001.0 * 1024 * 1024, L"9.77EB" },
+                      // EB is the last unit: no further step however large.
+                      UnitCase{ FormatCapacityGB, 1e20, L"93132257461.55EB" },
+                      UnitCase{ FormatTotalBitrate, 10000.0, L"10000.00 kbps" },
+                      UnitCase{ FormatTotalBitrate, 10001.0, L"9.77 Mbps" },
+                      // 10240000 kbps is exactly 10000 Mbps and so stays in Mbps.
+                      UnitCase{ FormatTotalBitrate, 10240000.0, L"10000.00 Mbps" },
+                      UnitCase{ FormatTotalBitrate, 10240001.0, L"9.77 Gbps" },
+                      UnitCase{ FormatTotalBitrate, 20000000000.0, L"19073.49 Gbps" }));
 
 struct DiskCase {
     int nDays;
@@ -59,12 +60,13 @@ TEST_P(DiskRequirementTest, TextAndFlash)
     EXPECT_FALSE(result.bFixValueRect);
 }
 
-INSTANTIATE_TEST_SUITE_P(Answers, DiskRequirementTest, ::testing::Values(
-    // 7 * 2048 * 3600 * 24 / 1024 / 8 / 1024 = 147.65625
-    DiskCase{7, 2048.0, L"147.66GB"},
-    // 126562.5 GB
-    DiskCase{30, 409600.0, L"123.60TB"},
-    DiskCase{3650, 1e15, L"35011993.30EB"}));
+INSTANTIATE_TEST_SUITE_P(Answers, DiskRequirementTest,
+                         ::testing::Values(
+                             // 7 * 2048 * 3600 * 24 / 1024 / 8 / 1024 = 147.65625
+                             DiskCase{ 7, 2048.0, L"147.66GB" },
+                             // 126562.5 GB
+                             DiskCase{ 30, 409600.0, L"123.60TB" },
+                             DiskCase{ 3650, 1e15, L"35011993.30EB" }));
 
 TEST(DiskRequirementZeroTest, ZeroRateIsNotFlashed)
 {
@@ -100,11 +102,10 @@ TEST_P(TruncateTest, TowardsZeroAndSaturated)
     EXPECT_EQ(TruncateToInt64(GetParam().dValue), GetParam().nExpected);
 }
 
-INSTANTIATE_TEST_SUITE_P(Values, TruncateTest, ::testing::Values(
-    TruncCase{40.69, 40},
-    TruncCase{-2.5, -2},
-    TruncCase{1e30, LLONG_MAX},
-    TruncCase{std::numeric_limits<double>::infinity(), LLONG_MAX},
-    TruncCase{std::nan(""), 0}));
+INSTANTIATE_TEST_SUITE_P(
+    Values, TruncateTest,
+    ::testing::Values(TruncCase{ 40.69, 40 }, TruncCase{ -2.5, -2 }, TruncCase{ 1e30, LLONG_MAX },
+                      TruncCase{ std::numeric_limits<double>::infinity(), LLONG_MAX },
+                      TruncCase{ std::nan(""), 0 }));
 
 } // namespace

@@ -1,10 +1,9 @@
-#include <gtest/gtest.h>
-
-#include <vector>
-
 #include "calculator/engine/DeviceCount.h"
 #include "calculator/engine/RaidCapacity.h"
 #include "calculator/engine/RaidTables.h"
+
+#include <gtest/gtest.h>
+#include <vector>
 
 namespace {
 
@@ -56,7 +55,6 @@ TEST(RaidTablesTest, RememberedBaysFollowTheUser)
     EXPECT_EQ(nRemembered, 0);
 }
 
-
 struct CapacityCase {
     int nDevice;
     int nLevel;
@@ -76,18 +74,19 @@ TEST_P(RaidCapacityTest, AvailableTB)
     EXPECT_TRUE(result.bTwinkle);
 }
 
-INSTANTIATE_TEST_SUITE_P(Layouts, RaidCapacityTest, ::testing::Values(
-    // 1 * 4 * 0.9
-    CapacityCase{0, 0, 0, 0, L"3.60TB"},
-    // 4 * 12 * 0.9
-    CapacityCase{0, 1, 1, 3, L"43.20TB"},
-    // 16 * 41 * 0.9
-    CapacityCase{3, 1, 2, 15, L"590.40TB"},
-    CapacityCase{3, 2, 0, 9, L"162.00TB"},
-    // Selections without an entry give no disks.
-    CapacityCase{0, 0, -1, 0, L"0.00TB"},
-    CapacityCase{4, 0, 0, 0, L"0.00TB"},
-    CapacityCase{0, 0, 0, -1, L"0.00TB"}));
+INSTANTIATE_TEST_SUITE_P(Layouts, RaidCapacityTest,
+                         ::testing::Values(
+                             // 1 * 4 * 0.9
+                             CapacityCase{ 0, 0, 0, 0, L"3.60TB" },
+                             // 4 * 12 * 0.9
+                             CapacityCase{ 0, 1, 1, 3, L"43.20TB" },
+                             // 16 * 41 * 0.9
+                             CapacityCase{ 3, 1, 2, 15, L"590.40TB" },
+                             CapacityCase{ 3, 2, 0, 9, L"162.00TB" },
+                             // Selections without an entry give no disks.
+                             CapacityCase{ 0, 0, -1, 0, L"0.00TB" },
+                             CapacityCase{ 4, 0, 0, 0, L"0.00TB" },
+                             CapacityCase{ 0, 0, 0, -1, L"0.00TB" }));
 
 struct DeviceCase {
     const char* pszName;
@@ -114,19 +113,24 @@ TEST_P(DeviceCountTest, RequestDevice)
     EXPECT_TRUE(result.bTwinkle);
 }
 
-INSTANTIATE_TEST_SUITE_P(Answers, DeviceCountTest, ::testing::Values(
-    // need 126562.5, capacity 265420.8: ratio 0.4768
-    DeviceCase{"OneDevice", 409600.0, 30, 1, 2, 3, 7, L"1 Device", true},
-    // need 22118.4 is exactly twice the 11059.2 of one device.
-    DeviceCase{"ExactlyTwo", 2147483.648, 1, 0, 0, 0, 2, L"2 Devices", true},
-    DeviceCase{"JustAboveTwo", 2147483.649, 1, 0, 0, 0, 2, L"3 Devices", true},
-    // One device holds 3686.4 GB.
-    DeviceCase{"Ratio99998Half", 35790857262.42133, 1, 0, 0, 0, 0, L"99999 Devices", true},
-    DeviceCase{"Ratio99999Half", 35791215176.36267, 1, 0, 0, 0, 0, L"100000\r\nDevices", false},
-    DeviceCase{"ZeroRate", 0.0, 30, 1, 2, 3, 7, L"0  Device", true},
-    DeviceCase{"NoDataDisks", 409600.0, 30, 0, 0, -1, 0, L"0  Device", false},
-    DeviceCase{"UnknownDevice", 409600.0, 30, 7, 0, 0, 0, L"0  Device", false}),
-    [](const ::testing::TestParamInfo<DeviceCase>& info) { return std::string(info.param.pszName); });
+INSTANTIATE_TEST_SUITE_P(
+    Answers, DeviceCountTest,
+    ::testing::Values(
+        // need 126562.5, capacity 265420.8: ratio 0.4768
+        DeviceCase{ "OneDevice", 409600.0, 30, 1, 2, 3, 7, L"1 Device", true },
+        // need 22118.4 is exactly twice the 11059.2 of one device.
+        DeviceCase{ "ExactlyTwo", 2147483.648, 1, 0, 0, 0, 2, L"2 Devices", true },
+        DeviceCase{ "JustAboveTwo", 2147483.649, 1, 0, 0, 0, 2, L"3 Devices", true },
+        // One device holds 3686.4 GB.
+        DeviceCase{ "Ratio99998Half", 35790857262.42133, 1, 0, 0, 0, 0, L"99999 Devices", true },
+        DeviceCase{ "Ratio99999Half", 35791215176.36267, 1, 0, 0, 0, 0, L"100000\r\nDevices",
+                    false },
+        DeviceCase{ "ZeroRate", 0.0, 30, 1, 2, 3, 7, L"0  Device", true },
+        DeviceCase{ "NoDataDisks", 409600.0, 30, 0, 0, -1, 0, L"0  Device", false },
+        DeviceCase{ "UnknownDevice", 409600.0, 30, 7, 0, 0, 0, L"0  Device", false }),
+    [](const ::testing::TestParamInfo<DeviceCase>& info) {
+        return std::string(info.param.pszName);
+    });
 
 TEST(DeviceCountTest, HugeDemandStaysOnTwoLines)
 {

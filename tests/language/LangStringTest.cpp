@@ -1,21 +1,21 @@
-#include <gtest/gtest.h>
+#include "language/LangString.h"
+
+#include "language/XmlFileLoader.h"
+#include "tests/support/BadXml.h"
+#include "tests/support/TempDir.h"
+
 #include <cwchar>
 #include <filesystem>
+#include <gtest/gtest.h>
 #include <string>
 #include <tinyxml.h>
 
-#include "tests/support/BadXml.h"
-#include "language/LangString.h"
-#include "tests/support/TempDir.h"
-#include "language/XmlFileLoader.h"
-
 namespace {
 
-const char* kEnglish =
-    "<Language>"
-    "<String name=\"Close\" value=\"Close\"/>"
-    "<String name=\"ProductName\" value=\"Tallix Storage Planner\"/>"
-    "</Language>";
+const char* kEnglish = "<Language>"
+                       "<String name=\"Close\" value=\"Close\"/>"
+                       "<String name=\"ProductName\" value=\"Tallix Storage Planner\"/>"
+                       "</Language>";
 
 class LangStringTest : public ::testing::Test {
 protected:
@@ -40,8 +40,9 @@ TEST_F(LangStringTest, ChoiceSelectsDictionary)
 {
     m_dir.Write("Language.xml", "<Language><Select value=\"0\"/></Language>");
     m_dir.Write("Lang_en.xml", kEnglish);
-    m_dir.Write("Lang_cn.xml",
-                "<Language><String name=\"ProductName\" value=\"Tallix 存储规划工具\"/></Language>");
+    m_dir.Write(
+        "Lang_cn.xml",
+        "<Language><String name=\"ProductName\" value=\"Tallix 存储规划工具\"/></Language>");
     ReadLanguageChoice();
     EXPECT_EQ(g_nLanguage, 0);
     EXPECT_EQ(Lookup(L"ProductName"), L"Tallix Storage Planner");
@@ -58,7 +59,8 @@ struct ChoiceCase {
     int expected;
 };
 
-class LanguageChoiceTest : public LangStringTest, public ::testing::WithParamInterface<ChoiceCase> {};
+class LanguageChoiceTest : public LangStringTest,
+                           public ::testing::WithParamInterface<ChoiceCase> {};
 
 TEST_P(LanguageChoiceTest, ReadsFirstChildElementValue)
 {
@@ -71,14 +73,15 @@ TEST_P(LanguageChoiceTest, ReadsFirstChildElementValue)
 INSTANTIATE_TEST_SUITE_P(
     Files, LanguageChoiceTest,
     ::testing::Values(
-        ChoiceCase{"English", "<Language><Select value=\"0\"/></Language>", 0},
-        ChoiceCase{"AnyRootName", "<Whatever><Pick value=\"0\"/></Whatever>", 0},
-        ChoiceCase{"Declaration", "<?xml version=\"1.0\" encoding=\"UTF-8\"?><L><S value=\"0\"/></L>", 0},
-        ChoiceCase{"CommentFirst", "<L><!-- 1 is Chinese --><S value=\"0\"/></L>", 0},
-        ChoiceCase{"OtherCode", "<L><S value=\"7\"/></L>", 7},
-        ChoiceCase{"NotANumber", "<L><S value=\"chinese\"/></L>", 0},
-        ChoiceCase{"NoValue", "<L><S/></L>", 0},
-        ChoiceCase{"NoChildElement", "<L>text only</L>", 1}),
+        ChoiceCase{ "English", "<Language><Select value=\"0\"/></Language>", 0 },
+        ChoiceCase{ "AnyRootName", "<Whatever><Pick value=\"0\"/></Whatever>", 0 },
+        ChoiceCase{ "Declaration",
+                    "<?xml version=\"1.0\" encoding=\"UTF-8\"?><L><S value=\"0\"/></L>", 0 },
+        ChoiceCase{ "CommentFirst", "<L><!-- 1 is Chinese --><S value=\"0\"/></L>", 0 },
+        ChoiceCase{ "OtherCode", "<L><S value=\"7\"/></L>", 7 },
+        ChoiceCase{ "NotANumber", "<L><S value=\"chinese\"/></L>", 0 },
+        ChoiceCase{ "NoValue", "<L><S/></L>", 0 },
+        ChoiceCase{ "NoChildElement", "<L>text only</L>", 1 }),
     [](const ::testing::TestParamInfo<ChoiceCase>& info) { return std::string(info.param.name); });
 
 class BadFileTest : public LangStringTest, public ::testing::WithParamInterface<BadXmlCase> {};
@@ -99,8 +102,7 @@ TEST_P(BadFileTest, DictionaryFallsBackToKeys)
     EXPECT_EQ(Lookup(L"Close"), L"Close");
     EXPECT_EQ(Lookup(L"HDD Capcity"), L"HDD Capcity");
     // Once the file is repaired, the next lookup finds it.
-    m_dir.Write("Lang_en.xml",
-                "<Language><String name=\"Close\" value=\"Shut\"/></Language>");
+    m_dir.Write("Lang_en.xml", "<Language><String name=\"Close\" value=\"Shut\"/></Language>");
     EXPECT_EQ(Lookup(L"Close"), L"Shut");
 }
 
@@ -133,17 +135,16 @@ TEST_F(LangStringTest, LoadedDictionaryIsNeverReread)
 TEST_F(LangStringTest, EntriesAreTolerantOfOddChildren)
 {
     g_nLanguage = 0;
-    m_dir.Write("Lang_en.xml",
-                "<Language>"
-                "<!-- toolbar -->"
-                "<String name=\"Min\" value=\"Minimise\"/>"
-                "loose text"
-                "<String name=\"Close\"/>"
-                "<String value=\"orphan\"/>"
-                "<String name=\"Min\" value=\"Minimize\"/>"
-                "<String name=\"\" value=\"blank\"/>"
-                "</Language>");
-    EXPECT_EQ(Lookup(L"Min"), L"Minimize");  // the later entry wins
+    m_dir.Write("Lang_en.xml", "<Language>"
+                               "<!-- toolbar -->"
+                               "<String name=\"Min\" value=\"Minimise\"/>"
+                               "loose text"
+                               "<String name=\"Close\"/>"
+                               "<String value=\"orphan\"/>"
+                               "<String name=\"Min\" value=\"Minimize\"/>"
+                               "<String name=\"\" value=\"blank\"/>"
+                               "</Language>");
+    EXPECT_EQ(Lookup(L"Min"), L"Minimize"); // the later entry wins
     EXPECT_EQ(Lookup(L"Close"), L"Close");
     EXPECT_EQ(Lookup(L""), L"blank");
 }
@@ -161,7 +162,8 @@ TEST_F(LangStringTest, LongTextsAreCut)
 {
     g_nLanguage = 0;
     m_dir.Write("Lang_en.xml", "<L><S name=\"Long\" value=\"" + std::string(1500, 'y') +
-                                   "\"/><S name=\"Edge\" value=\"" + std::string(1023, 'z') + "\"/></L>");
+                                   "\"/><S name=\"Edge\" value=\"" + std::string(1023, 'z') +
+                                   "\"/></L>");
     EXPECT_EQ(Lookup(L"Long"), std::wstring(1023, L'y'));
     EXPECT_EQ(Lookup(L"Edge"), std::wstring(1023, L'z'));
     std::wstring longKey(2000, L'k');
@@ -174,7 +176,7 @@ TEST_F(LangStringTest, FiveBuffersRotate)
     m_dir.Write("Lang_en.xml", kEnglish);
     const wchar_t* first = GetLangString(L"Close", 0);
     const wchar_t* held[4];
-    const wchar_t* keys[4] = {L"a", L"b", L"c", L"d"};
+    const wchar_t* keys[4] = { L"a", L"b", L"c", L"d" };
     for (int i = 0; i < 4; ++i)
         held[i] = GetLangString(keys[i], 0);
     EXPECT_STREQ(first, L"Close");
@@ -199,18 +201,21 @@ TEST_P(NestingDepthTest, CountsOnlyElementNesting)
 
 INSTANTIATE_TEST_SUITE_P(
     Texts, NestingDepthTest,
-    ::testing::Values(DepthCase{"", 0}, DepthCase{"plain", 0}, DepthCase{"<a/>", 0},
-                      DepthCase{"<a><b/><c></c></a>", 2}, DepthCase{"<a><b><c>", 3},
-                      DepthCase{"<a x=\"<b>\" y='>'><c/></a>", 1},
-                      DepthCase{"<?xml version=\"1.0\"?><!-- <a><a> --><r><![CDATA[<x><y>]]></r>", 1},
-                      DepthCase{"<!DOCTYPE r><r></r></r></r><s>", 1}, DepthCase{"<<<<3 < 4", 0}));
+    ::testing::Values(DepthCase{ "", 0 }, DepthCase{ "plain", 0 }, DepthCase{ "<a/>", 0 },
+                      DepthCase{ "<a><b/><c></c></a>", 2 }, DepthCase{ "<a><b><c>", 3 },
+                      DepthCase{ "<a x=\"<b>\" y='>'><c/></a>", 1 },
+                      DepthCase{ "<?xml version=\"1.0\"?><!-- <a><a> --><r><![CDATA[<x><y>]]></r>",
+                                 1 },
+                      DepthCase{ "<!DOCTYPE r><r></r></r></r><s>", 1 },
+                      DepthCase{ "<<<<3 < 4", 0 }));
 
 TEST(XmlFileLoaderTest, RefusesDeepNestingBeforeParsing)
 {
     std::string deep;
     for (int i = 0; i < 50000; ++i)
         deep += "<a>";
-    EXPECT_GT(CXmlFileLoader::NestingDepth(deep, CXmlFileLoader::kMaxDepth), CXmlFileLoader::kMaxDepth);
+    EXPECT_GT(CXmlFileLoader::NestingDepth(deep, CXmlFileLoader::kMaxDepth),
+              CXmlFileLoader::kMaxDepth);
     TiXmlDocument doc;
     EXPECT_FALSE(CXmlFileLoader::Parse(doc, deep));
     EXPECT_TRUE(doc.Error());
@@ -224,7 +229,10 @@ TEST(XmlFileLoaderTest, LoadsLikeTinyXml)
     TiXmlDocument doc;
     ASSERT_TRUE(CXmlFileLoader::Load(doc, dir.File("a.xml")));
     int value = 0;
-    doc.RootElement()->FirstChildElement("UIConfig")->FirstChildElement("R")->QueryIntAttribute("value", &value);
+    doc.RootElement()
+        ->FirstChildElement("UIConfig")
+        ->FirstChildElement("R")
+        ->QueryIntAttribute("value", &value);
     EXPECT_EQ(value, 85);
 
     TiXmlDocument missing;

@@ -1,9 +1,10 @@
-#include <gtest/gtest.h>
-#include <string>
+#include "language/TextConvert.h"
 
 #include "language/SFStreamConvert.h"
-#include "language/TextConvert.h"
 #include "platform/WinTypes.h"
+
+#include <gtest/gtest.h>
+#include <string>
 
 using SF_SOFT_BASE::CSFStreamConvert;
 
@@ -15,11 +16,11 @@ struct RoundTrip {
 };
 
 const RoundTrip kRoundTrips[] = {
-    {"", L""},
-    {"RecordblePersentage", L"RecordblePersentage"},
-    {"\xE7\xA1\xAC\xE7\x9B\x98\xE5\xAE\xB9\xE9\x87\x8F", L"\u786c\u76d8\u5bb9\u91cf"},
-    {"Copyright \xC2\xA9 2026", L"Copyright \u00a9 2026"},
-    {"\xF0\x9F\x93\xB9 cam", L"\U0001F4F9 cam"},
+    { "", L"" },
+    { "RecordblePersentage", L"RecordblePersentage" },
+    { "\xE7\xA1\xAC\xE7\x9B\x98\xE5\xAE\xB9\xE9\x87\x8F", L"\u786c\u76d8\u5bb9\u91cf" },
+    { "Copyright \xC2\xA9 2026", L"Copyright \u00a9 2026" },
+    { "\xF0\x9F\x93\xB9 cam", L"\U0001F4F9 cam" },
 };
 
 TEST(StreamConvertTest, RoundTripsUtf8BothWays)
@@ -51,7 +52,9 @@ TEST(StreamConvertTest, ReuseAndClear)
 
 TEST(StreamConvertTest, InvalidUtf8BecomesReplacement)
 {
-    CSFStreamConvert conv("a\xFF" "b", CP_UTF8);
+    CSFStreamConvert conv("a\xFF"
+                          "b",
+                          CP_UTF8);
     EXPECT_EQ(conv.GetWString(), L"a\uFFFDb");
 }
 
@@ -73,11 +76,12 @@ TEST_P(ParseWideDigitsTest, ReadsDigitsUpToLimit)
 
 INSTANTIATE_TEST_SUITE_P(
     Cases, ParseWideDigitsTest,
-    ::testing::Values(DigitsCase{L"", 9, 1, 0}, DigitsCase{L"24", 9, 1, 24},
-                      DigitsCase{L"123456789012", 9, 1, 123456789}, DigitsCase{L"12a4", 9, 0, 12},
-                      DigitsCase{L"-5", 9, 0, 0}, DigitsCase{L" 7", 9, 0, 0},
-                      DigitsCase{L"007", 2, 1, 0}, DigitsCase{L"99999", 0, 1, 0},
+    ::testing::Values(DigitsCase{ L"", 9, 1, 0 }, DigitsCase{ L"24", 9, 1, 24 },
+                      DigitsCase{ L"123456789012", 9, 1, 123456789 },
+                      DigitsCase{ L"12a4", 9, 0, 12 }, DigitsCase{ L"-5", 9, 0, 0 },
+                      DigitsCase{ L" 7", 9, 0, 0 }, DigitsCase{ L"007", 2, 1, 0 },
+                      DigitsCase{ L"99999", 0, 1, 0 },
                       // Overlong numbers wrap instead of stopping.
-                      DigitsCase{L"4294967297", 10, 1, 1}));
+                      DigitsCase{ L"4294967297", 10, 1, 1 }));
 
 } // namespace

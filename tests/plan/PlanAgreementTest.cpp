@@ -10,7 +10,6 @@
 #include <QProcess>
 #include <QStringList>
 #include <gtest/gtest.h>
-
 #include <sstream>
 #include <string>
 #include <vector>
@@ -83,11 +82,11 @@ public:
     // the word between count and rate is the plan's own.
     std::string TotalsOfWindow() const
     {
-        return (m_window.TotalWord() + QLatin1Char(' ') + m_window.ChannelCount()
-                + QStringLiteral(" %1, ").arg(m_language.back() == "cn"
-                                                   ? QStringLiteral("通道数")
-                                                   : QStringLiteral("channels"))
-                + m_window.TotalBitrate())
+        return (m_window.TotalWord() + QLatin1Char(' ') + m_window.ChannelCount() +
+                QStringLiteral(" %1, ").arg(m_language.back() == "cn"
+                                                ? QStringLiteral("通道数")
+                                                : QStringLiteral("channels")) +
+                m_window.TotalBitrate())
             .toStdString();
     }
 
@@ -140,14 +139,14 @@ std::vector<WorkedExample> WorkedExamples()
 {
     WindowInputs defaults;
     WindowInputs week = defaults;
-    week.nCapacityIndex = 3;  // 1TB
+    week.nCapacityIndex = 3; // 1TB
     week.bWeeklyPlan = true;
     const int plan[7] = { 8, 8, 8, 8, 8, 0, 0 };
     std::copy(plan, plan + 7, week.anDayHours);
-    week.nRaidLevel = 1;      // KTR6, RAID 5, 16 bays, 4 TB
+    week.nRaidLevel = 1; // KTR6, RAID 5, 16 bays, 4 TB
     week.nRaidBaySel = 1;
     week.nRaidDiskSel = 3;
-    week.nRaid2Device = 1;    // MQS50, RAID 6, 48 bays, 8 TB, 30 days
+    week.nRaid2Device = 1; // MQS50, RAID 6, 48 bays, 8 TB, 30 days
     week.nRaid2Level = 2;
     week.nRaid2BaySel = 3;
     week.nRaid2DiskSel = 7;
@@ -155,7 +154,7 @@ std::vector<WorkedExample> WorkedExamples()
     WindowInputs days = defaults;
     days.nDays = 7;
     days.nCapacityIndex = 3;
-    days.nRaidDevice = 3;     // MQS71, RAID 5, 48 bays, 16 TB
+    days.nRaidDevice = 3; // MQS71, RAID 5, 48 bays, 16 TB
     days.nRaidLevel = 1;
     days.nRaidBaySel = 2;
     days.nRaidDiskSel = 15;

@@ -3,10 +3,9 @@
 
 #include "tests/support/TempDir.h"
 
-#include <gtest/gtest.h>
-
 #include <cstdlib>
 #include <fstream>
+#include <gtest/gtest.h>
 #include <iterator>
 #include <string>
 #include <sys/wait.h>
@@ -46,9 +45,9 @@ protected:
     // Runs the program in the test's directory; stdin from a file when given.
     RunResult Plan(const std::string& strArgs, const std::string& strStdin = "/dev/null")
     {
-        const std::string strCommand = "cd '" + m_dir.Path() + "' && '" TALLIX_APP_DIR
-                                       "/tallix-plan' "
-            + strArgs + " <" + strStdin + " >out.txt 2>err.txt";
+        const std::string strCommand = "cd '" + m_dir.Path() +
+                                       "' && '" TALLIX_APP_DIR "/tallix-plan' " + strArgs + " <" +
+                                       strStdin + " >out.txt 2>err.txt";
         const int nStatus = std::system(strCommand.c_str());
         RunResult run;
         run.nCode = WIFEXITED(nStatus) ? WEXITSTATUS(nStatus) : -1;
@@ -88,39 +87,46 @@ TEST_F(PlanCliTest, ChineseFromTheSameDictionaries)
 struct FormatCase {
     const char* pszName;
     const char* pszArgs;
-    std::vector<std::string> parts;  // each must appear in the output
+    std::vector<std::string> parts; // each must appear in the output
 };
 
 TEST_F(PlanCliTest, JsonCsvAndExplainCarryTheFigures)
 {
     const FormatCase cases[] = {
-        { "json", "--format json --days 7 site.csv",
+        { "json",
+          "--format json --days 7 site.csv",
           { "\"totals\": {\"channels\": 1, \"kbps\": 2048, \"text\": \"2048.00 kbps\"",
             "{\"question\": \"disk_requirement\", \"caption\": \"Request Capacity:\", "
             "\"text\": \"147.66GB\", \"days\": 7, \"gb\": 147.65625, \"value\": 147.66, "
             "\"unit\": \"GB\"}",
             "\"rows\": [\n    {\"line\": 3, \"channels\": 1, \"fps\": 60, \"estimate\": 2048" } },
-        { "json weekly", "--format=json --capacity 1TB --plan 8,8,8,8,8,0,0 site.csv",
+        { "json weekly",
+          "--format=json --capacity 1TB --plan 8,8,8,8,8,0,0 site.csv",
           { "\"raw_gb\": 953.67424", "\"percent\": 90", "\"plan\": \"8,8,8,8,8,0,0\"",
             "\"weeks\": 24, \"days\": 2, \"hours\": 0.56" } },
-        { "csv", "--format csv --raid KTR6,RAID5,16,4TB site.csv",
+        { "csv",
+          "--format csv --raid KTR6,RAID5,16,4TB site.csv",
           { "question,field,value\ntotals,channels,1\ntotals,kbps,2048\n",
             "raid_capacity,text,43.20TB\n", "raid_capacity,data_disks,12\n",
             "raid_capacity,bays,16\n" } },
-        { "csv quotes a plan", "--format csv --plan 24,0,0,0,0,0,1 site.csv",
+        { "csv quotes a plan",
+          "--format csv --plan 24,0,0,0,0,0,1 site.csv",
           { "recording_days,plan,\"24,0,0,0,0,0,1\"\n" } },
-        { "explain", "--explain --days 7 --capacity 1TB --raid-days 30 site.csv",
+        { "explain",
+          "--explain --days 7 --capacity 1TB --raid-days 30 site.csv",
           { "Request Capacity: 147.66GB\n  GB needed = 7 days * 2048 kbps * 3600 * 24",
             "line 3: 1 x H.264 D1 at 60 fps: 1024 * 60 / 30 * 1 = 2048, shown \"2048\"",
             "usable = 90 (recordable percentage) * 953.67424 / 100 = 858.306816 GB",
             "one device = 1 TB * 4 data disks (KTR6 RAID1, 8 bays) * 0.9 * 1024 = 3686.4 GB" } },
-        { "settings file gives the percentage", "--config config.xml --capacity 1TB site.csv",
+        { "settings file gives the percentage",
+          "--config config.xml --capacity 1TB site.csv",
           { "Recording Days: 20  Day 8.28 Hour" } },
         { "percent wins over the settings file",
           "--config config.xml --percent 90 --capacity 1TB site.csv",
           { "Recording Days: 40  Day 16.56 Hour" } },
         { "standard input", "--days 7 -", { "Request Capacity: 147.66GB" } },
-        { "area 1 lowers D1", "--area 1 --days 7 site.csv",
+        { "area 1 lowers D1",
+          "--area 1 --days 7 site.csv",
           { "Total 1 channels, 1024.00 kbps", "Request Capacity: 73.83GB" } },
     };
     for (const FormatCase& c : cases) {
@@ -136,7 +142,7 @@ struct FailureCase {
     const char* pszName;
     const char* pszArgs;
     int nCode;
-    const char* pszError;  // the whole message
+    const char* pszError; // the whole message
 };
 
 TEST_F(PlanCliTest, FailuresSayWhereAndPrintNothingElse)

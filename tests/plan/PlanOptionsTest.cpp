@@ -4,7 +4,6 @@
 #include "plan/PlanOptions.h"
 
 #include <gtest/gtest.h>
-
 #include <string>
 #include <vector>
 
@@ -23,16 +22,27 @@ TEST(PlanOptionsTest, AsksWhatTheOptionsName)
     const QuestionCase cases[] = {
         { "none: all four", { "s.csv" }, true, true, true, true },
         { "days", { "--days", "7", "s.csv" }, true, false, false, false },
-        { "percent alone asks recording days", { "--percent=80", "s.csv" }, false, true, false,
+        { "percent alone asks recording days",
+          { "--percent=80", "s.csv" },
+          false,
+          true,
+          false,
           false },
         { "plan", { "s.csv", "--plan", "24h" }, false, true, false, false },
         { "raid", { "--raid", "KTR6,RAID5,16,4TB", "s.csv" }, false, false, true, false },
-        { "raid with days asks the count", { "--raid", "KTR6,RAID5,16,4TB", "--raid-days", "3",
-                                             "s.csv" },
-          false, false, false, true },
+        { "raid with days asks the count",
+          { "--raid", "KTR6,RAID5,16,4TB", "--raid-days", "3", "s.csv" },
+          false,
+          false,
+          false,
+          true },
         { "raid days alone", { "--raid-days", "3", "s.csv" }, false, false, false, true },
-        { "format and language ask nothing", { "--format", "json", "--lang", "cn", "s.csv" },
-          true, true, true, true },
+        { "format and language ask nothing",
+          { "--format", "json", "--lang", "cn", "s.csv" },
+          true,
+          true,
+          true,
+          true },
     };
     for (const QuestionCase& c : cases) {
         SCOPED_TRACE(c.pszName);
@@ -63,7 +73,7 @@ TEST(PlanOptionsTest, ReadsTheInputsAsTheWindowHoldsThem)
     EXPECT_EQ(o.anDayHours[6], 24);
     EXPECT_EQ(o.nRaidDevice, 3);
     EXPECT_EQ(o.nRaidLevel, 1);
-    EXPECT_EQ(o.nRaidBaySel, 2);  // 24, 36, 48
+    EXPECT_EQ(o.nRaidBaySel, 2); // 24, 36, 48
     EXPECT_EQ(o.nRaidDiskSel, 15);
     EXPECT_EQ(o.nArea, 1);
     EXPECT_EQ(o.nLanguage, 1);
@@ -98,7 +108,8 @@ TEST(PlanOptionsTest, RefusesBadValuesNamingWhatWasExpected)
         { "percent", { "--percent", "101", "s.csv" }, "a whole number 0-100" },
         { "plan short", { "--plan", "8,8,8", "s.csv" }, "seven hours 0-24" },
         { "raid parts", { "--raid", "KTR6,RAID5,16", "s.csv" }, "DEVICE,LEVEL,BAYS,DISK" },
-        { "raid bays not offered", { "--raid", "MQS71,RAID5,16,4TB", "s.csv" },
+        { "raid bays not offered",
+          { "--raid", "MQS71,RAID5,16,4TB", "s.csv" },
           "a bay count that MQS71 offers with RAID5: 24, 36, 48" },
         { "raid disk", { "--raid", "KTR6,RAID5,16,17TB", "s.csv" }, "DISK 1TB-16TB" },
         { "area", { "--area", "2", "s.csv" }, "expected 0 or 1" },

@@ -12,16 +12,22 @@ namespace {
 std::string Field(const SiteRow& row, int nColumn)
 {
     switch (nColumn) {
-    case 0: return std::to_string(row.nChannels);
-    case 1: return SiteValues::CompressionName(row.nCompression);
-    case 2: return std::to_string(row.nScene);
-    case 3: return SiteValues::Narrow(g_szResolutionEntries[row.nResolution - 1]);
+    case 0:
+        return std::to_string(row.nChannels);
+    case 1:
+        return SiteValues::CompressionName(row.nCompression);
+    case 2:
+        return std::to_string(row.nScene);
+    case 3:
+        return SiteValues::Narrow(g_szResolutionEntries[row.nResolution - 1]);
     case 4:
         return row.nFrameRateIndex == kRowFrameRateCustom
-            ? row.strCustomRate
-            : g_szRowFrameRates[row.nFrameRateIndex - 1];
-    case 5: return row.bAudio ? "on" : "off";
-    default: return row.strTypedBitrate;
+                   ? row.strCustomRate
+                   : g_szRowFrameRates[row.nFrameRateIndex - 1];
+    case 5:
+        return row.bAudio ? "on" : "off";
+    default:
+        return row.strTypedBitrate;
     }
 }
 
@@ -49,7 +55,9 @@ SiteRow CRandomSite::Row()
     if (Pick(6) == 0) {
         row.nFrameRateIndex = kRowFrameRateCustom;
         const int nKind = Pick(3);
-        row.strCustomRate = std::to_string(nKind == 0 ? Pick(31) : nKind == 1 ? Pick(100) : Pick(1000));
+        row.strCustomRate = std::to_string(nKind == 0   ? Pick(31)
+                                           : nKind == 1 ? Pick(100)
+                                                        : Pick(1000));
         // A listed rate is read as the list's entry.
         for (int i = 0; i < kRowFrameRateEntryCount; ++i) {
             if (row.strCustomRate == g_szRowFrameRates[i]) {
@@ -64,8 +72,10 @@ SiteRow CRandomSite::Row()
     if (Pick(5) == 0) {
         row.bTypedBitrate = true;
         const int nKind = Pick(6);
-        row.strTypedBitrate = nKind == 0 ? "0" : nKind == 1 ? "00" + std::to_string(Pick(100))
-                                               : std::to_string(1 + Pick(nKind == 5 ? 999999999 : 20000));
+        row.strTypedBitrate = nKind == 0 ? "0"
+                              : nKind == 1
+                                  ? "00" + std::to_string(Pick(100))
+                                  : std::to_string(1 + Pick(nKind == 5 ? 999999999 : 20000));
     }
     return row;
 }
@@ -84,24 +94,32 @@ std::string CRandomSite::Csv(const std::vector<SiteRow>& rows)
 void CRandomSite::Ask(SiteCase& site)
 {
     const WindowInputs& in = site.inputs;
-    std::string strCapacity = in.nCapacityIndex == kCapacityItemCount
-        ? "custom:" + in.strCustomCapacity + (in.bCustomInTB ? "TB" : "GB")
-        : SiteValues::CapacityItem(in.nCapacityIndex);
+    std::string strCapacity =
+        in.nCapacityIndex == kCapacityItemCount
+            ? "custom:" + in.strCustomCapacity + (in.bCustomInTB ? "TB" : "GB")
+            : SiteValues::CapacityItem(in.nCapacityIndex);
     std::string strPlan = in.bWeeklyPlan ? "" : "24h";
     for (int i = 0; in.bWeeklyPlan && i < 7; ++i)
         strPlan += (i ? "," : "") + std::to_string(in.anDayHours[i]);
     const CRaidTables tables;
     auto raid = [&tables](int nDevice, int nLevel, int nBaySel, int nDiskSel) {
-        return std::string(SiteValues::kRaidDevices[nDevice]) + ","
-            + SiteValues::kRaidLevels[nLevel] + ","
-            + std::to_string(tables.LookupBayCount(nDevice, nLevel, static_cast<unsigned>(nBaySel)))
-            + "," + std::to_string(nDiskSel + 1) + "TB";
+        return std::string(SiteValues::kRaidDevices[nDevice]) + "," +
+               SiteValues::kRaidLevels[nLevel] + "," +
+               std::to_string(
+                   tables.LookupBayCount(nDevice, nLevel, static_cast<unsigned>(nBaySel))) +
+               "," + std::to_string(nDiskSel + 1) + "TB";
     };
-    site.firstArgs = { "--days", std::to_string(in.nDays), "--capacity=" + strCapacity,
-                       "--percent", std::to_string(in.nPercent), "--plan", strPlan, "--raid",
+    site.firstArgs = { "--days",
+                       std::to_string(in.nDays),
+                       "--capacity=" + strCapacity,
+                       "--percent",
+                       std::to_string(in.nPercent),
+                       "--plan",
+                       strPlan,
+                       "--raid",
                        raid(in.nRaidDevice, in.nRaidLevel, in.nRaidBaySel, in.nRaidDiskSel) };
-    site.deviceArgs = { "--raid", raid(in.nRaid2Device, in.nRaid2Level, in.nRaid2BaySel,
-                                       in.nRaid2DiskSel),
+    site.deviceArgs = { "--raid",
+                        raid(in.nRaid2Device, in.nRaid2Level, in.nRaid2BaySel, in.nRaid2DiskSel),
                         "--raid-days", std::to_string(in.nRaid2Days) };
 }
 
@@ -121,8 +139,8 @@ SiteCase CRandomSite::Next()
         order.pop_back();
     if (Pick(3) == 0)
         std::shuffle(order.begin(), order.end(), m_random);
-    static const char* const kNames[] = { "channels", "compression", "scene", "resolution",
-                                          "fps", "audio", "bitrate" };
+    static const char* const kNames[] = { "channels", "compression", "scene",  "resolution",
+                                          "fps",      "audio",       "bitrate" };
     std::string strCsv = Pick(3) == 0 ? "# site " + std::to_string(m_random()) + "\n\n" : "";
     for (std::size_t c = 0; c < order.size(); ++c)
         strCsv += (c ? "," : "") + Spelled(kNames[order[c]]);

@@ -31,7 +31,7 @@ public:
     static void Ask(SiteCase& site);
 
 private:
-    int Pick(int nCount);  // 0 to nCount - 1
+    int Pick(int nCount); // 0 to nCount - 1
     SiteRow Row();
     std::string Spelled(const std::string& strName);
 

@@ -1,10 +1,10 @@
 // The site file reader: what a line becomes, and where a bad one is reported.
 
-#include "plan/SiteFigures.h"
 #include "plan/SiteFileReader.h"
 
-#include <gtest/gtest.h>
+#include "plan/SiteFigures.h"
 
+#include <gtest/gtest.h>
 #include <string>
 #include <vector>
 
@@ -32,16 +32,17 @@ TEST(SiteFileReaderTest, ReadsEachFormOfALine)
           false, true, "007", 2 },
         { "custom rate", kHeader + "1,smart265,2,12MP,50,off,\n", 1, 4, 2, 12, 10, "50", false,
           false, "", 2 },
-        { "listed rate with zeros", kHeader + "1,H.264,0,2MP,030,off,\n", 1, 1, 0, 6, 7, "",
-          false, false, "", 2 },
+        { "listed rate with zeros", kHeader + "1,H.264,0,2MP,030,off,\n", 1, 1, 0, 6, 7, "", false,
+          false, "", 2 },
         { "any order, no bitrate column",
-          "audio,fps,resolution,scene,compression,channels\non,25,1.3MP,3,smart264,9999\n", 9999,
-          3, 3, 5, 6, "", true, false, "", 2 },
+          "audio,fps,resolution,scene,compression,channels\non,25,1.3MP,3,smart264,9999\n", 9999, 3,
+          3, 5, 6, "", true, false, "", 2 },
         { "case, blanks and quotes",
           " Channels , COMPRESSION,scene,Resolution,fps,Audio\n\"12\", h.265 ,\"0\",8mp,60,ON\n",
           12, 2, 0, 11, 9, "", true, false, "", 2 },
         { "comments, blank lines, CRLF, BOM",
-          "\xEF\xBB\xBF# site A\r\n\r\n" + kHeader + "  # first camera\r\n3,H.264,0,VGA,5,off, # yard\r\n",
+          "\xEF\xBB\xBF# site A\r\n\r\n" + kHeader +
+              "  # first camera\r\n3,H.264,0,VGA,5,off, # yard\r\n",
           3, 1, 0, 2, 2, "", false, false, "", 5 },
     };
     for (const GoodCase& c : cases) {
@@ -76,7 +77,7 @@ struct BadCase {
     std::string strText;
     int nLine;
     int nColumn;
-    const char* pszMessage;  // a part of the message
+    const char* pszMessage; // a part of the message
 };
 
 TEST(SiteFileReaderTest, NamesLineColumnAndWhatWasExpected)
@@ -108,7 +109,11 @@ TEST(SiteFileReaderTest, NamesLineColumnAndWhatWasExpected)
         { "unclosed quote", kHeader + "4,\"H.265,0,D1,15,on,\n", 2, 3, "unclosed quote" },
         { "text after a quote", kHeader + "4,\"H.265\"x,0,D1,15,on,\n", 2, 10,
           "text after a closing quote" },
-        { "zero byte", kHeader + std::string("4,H.2\0" "65,0,D1,15,on,\n", 21), 2, 6, "zero byte" },
+        { "zero byte",
+          kHeader + std::string("4,H.2\0"
+                                "65,0,D1,15,on,\n",
+                                21),
+          2, 6, "zero byte" },
         { "second row", kHeader + "4,H.265,0,D1,15,on,\n\n4,H.265,0,D1,15,of,\n", 4, 17,
           "bad audio \"of\"" },
     };
@@ -126,7 +131,8 @@ TEST(SiteFileReaderTest, NamesLineColumnAndWhatWasExpected)
 
 TEST(SiteFileReaderTest, ColumnsCountCharactersNotBytes)
 {
-    const SiteFileResult result = CSiteFileReader::Parse(kHeader + "4,\"\xC3\xA9\xC3\xA9\xC3\xA9\"x,0\n");
+    const SiteFileResult result =
+        CSiteFileReader::Parse(kHeader + "4,\"\xC3\xA9\xC3\xA9\xC3\xA9\"x,0\n");
     ASSERT_FALSE(result.bOk);
     EXPECT_EQ(result.error.nColumn, 8);
 }
@@ -138,8 +144,8 @@ struct FigureCase {
     int nArea;
     int nFrameRate;
     const char* pszText;
-    int nChannels;     // counted channels of the site
-    double dKbps;      // total of the site
+    int nChannels; // counted channels of the site
+    double dKbps;  // total of the site
 };
 
 TEST(SiteFiguresTest, RowsShowWhatTheTableShows)

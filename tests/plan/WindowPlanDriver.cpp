@@ -1,8 +1,8 @@
 #include "tests/plan/WindowPlanDriver.h"
 
+#include "Config/VexUISetting.h"
 #include "calculator/CalculatorBottom.h"
 #include "calculator/engine/CapacityTable.h"
-#include "Config/VexUISetting.h"
 #include "language/LangString.h"
 #include "sf/DialogStyle.h"
 #include "sf/SFDialog.h"
@@ -30,8 +30,15 @@ const unsigned kClearButton = 0xBCC;
 const unsigned kListCtrl = 0x7DE;
 
 // Columns of a channel row.
-enum { ColChannels = 1, ColCompression, ColScene, ColResolution, ColFrameRate, ColAudio,
-       ColBitrate };
+enum {
+    ColChannels = 1,
+    ColCompression,
+    ColScene,
+    ColResolution,
+    ColFrameRate,
+    ColAudio,
+    ColBitrate
+};
 
 QString Name(const char* pszKind, unsigned nId)
 {
@@ -212,7 +219,8 @@ WindowAnswer CWindowPlanDriver::DiskRequirement(const WindowInputs& in, bool bDe
 {
     ClickMode(CCalculatorBottom::ID_RADIO_DISK_REQUIREMENT);
     if (!bDefaults) {
-        if (auto* spin = qobject_cast<QSpinBox*>(Named(Name("spinner", CCalculatorBottom::ID_SPIN_DAYS), true)))
+        if (auto* spin = qobject_cast<QSpinBox*>(
+                Named(Name("spinner", CCalculatorBottom::ID_SPIN_DAYS), true)))
             spin->setValue(in.nDays);
     }
     return Result();
@@ -228,13 +236,15 @@ WindowAnswer CWindowPlanDriver::RecordingDays(const WindowInputs& in, bool bDefa
     Choose(Name("combo", CCalculatorBottom::ID_COMBO_CAPACITY), in.nCapacityIndex);
     if (in.nCapacityIndex == kCapacityItemCount) {
         Choose(Name("combo", CCalculatorBottom::ID_COMBO_CAPACITY_UNIT), in.bCustomInTB ? 1 : 0);
-        if (auto* edit = qobject_cast<QLineEdit*>(Named(Name("edit", CCalculatorBottom::ID_EDIT_CUSTOM_CAPACITY), true)))
+        if (auto* edit = qobject_cast<QLineEdit*>(
+                Named(Name("edit", CCalculatorBottom::ID_EDIT_CUSTOM_CAPACITY), true)))
             edit->setText(QString::fromStdString(in.strCustomCapacity));
     }
     Choose(Name("combo", CCalculatorBottom::ID_COMBO_RECORD_PLAN), in.bWeeklyPlan ? 1 : 0);
     if (in.bWeeklyPlan) {
         for (int i = 0; i < 7; ++i) {
-            if (auto* edit = qobject_cast<QLineEdit*>(Named(Name("edit", CCalculatorBottom::ID_EDIT_DAY_HOURS_FIRST + i), true)))
+            if (auto* edit = qobject_cast<QLineEdit*>(
+                    Named(Name("edit", CCalculatorBottom::ID_EDIT_DAY_HOURS_FIRST + i), true)))
                 edit->setText(QString::number(in.anDayHours[i]));
         }
     }

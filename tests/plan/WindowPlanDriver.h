@@ -18,7 +18,7 @@ class QWidget;
 // What a site asks of the calculator, in the window's terms.
 struct WindowInputs {
     int nDays = 1;
-    int nCapacityIndex = 0;  // 13 is "Customize"
+    int nCapacityIndex = 0; // 13 is "Customize"
     std::string strCustomCapacity;
     bool bCustomInTB = false;
     unsigned nPercent = 90;

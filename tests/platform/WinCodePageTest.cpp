@@ -1,10 +1,10 @@
-#include <gtest/gtest.h>
-
-#include <cstdlib>
-#include <string>
+#include "platform/WinCodePage.h"
 
 #include "platform/WinCharset.h"
-#include "platform/WinCodePage.h"
+
+#include <cstdlib>
+#include <gtest/gtest.h>
+#include <string>
 
 namespace {
 
@@ -49,13 +49,19 @@ TEST_P(Utf8RoundTripTest, BothWays)
     EXPECT_EQ(toNarrow(CP_UTF8, c.wide), c.bytes);
 }
 
-INSTANTIATE_TEST_SUITE_P(Table, Utf8RoundTripTest, ::testing::Values(
-    Utf8Case{ "ascii", "HDD Capcity", L"HDD Capcity" },
-    Utf8Case{ "twoByte", "\xC3\xA9t\xC3\xA9", L"\u00E9t\u00E9" },
-    Utf8Case{ "threeByte", "\xE7\xA1\xAC\xE7\x9B\x98", L"\u786C\u76D8" },
-    Utf8Case{ "fourByte", "a\xF0\x9F\x98\x80" "b", L"a\U0001F600b" },
-    Utf8Case{ "limits", "\x7F\xC2\x80\xDF\xBF\xE0\xA0\x80\xEF\xBF\xBF\xF0\x90\x80\x80\xF4\x8F\xBF\xBF",
-              L"\x7F\x80\x7FF\x800\xFFFF\U00010000\U0010FFFF" }));
+INSTANTIATE_TEST_SUITE_P(
+    Table, Utf8RoundTripTest,
+    ::testing::Values(
+        Utf8Case{ "ascii", "HDD Capcity", L"HDD Capcity" },
+        Utf8Case{ "twoByte", "\xC3\xA9t\xC3\xA9", L"\u00E9t\u00E9" },
+        Utf8Case{ "threeByte", "\xE7\xA1\xAC\xE7\x9B\x98", L"\u786C\u76D8" },
+        Utf8Case{ "fourByte",
+                  "a\xF0\x9F\x98\x80"
+                  "b",
+                  L"a\U0001F600b" },
+        Utf8Case{ "limits",
+                  "\x7F\xC2\x80\xDF\xBF\xE0\xA0\x80\xEF\xBF\xBF\xF0\x90\x80\x80\xF4\x8F\xBF\xBF",
+                  L"\x7F\x80\x7FF\x800\xFFFF\U00010000\U0010FFFF" }));
 
 class Utf8InvalidTest : public ::testing::TestWithParam<Utf8Case> {};
 
@@ -70,26 +76,38 @@ const std::wstring R2(2, kFffd);
 const std::wstring R3(3, kFffd);
 const std::wstring R4(4, kFffd);
 
-INSTANTIATE_TEST_SUITE_P(Table, Utf8InvalidTest, ::testing::Values(
-    Utf8Case{ "loneContinuation", "a\x80" "b", L"a" + R1 + L"b" },
-    Utf8Case{ "truncatedAtEnd", "\xE7\xA1", R1 },
-    Utf8Case{ "truncatedBeforeAscii", "\xF0\x9F\x98z", R1 + L"z" },
-    Utf8Case{ "truncatedBeforeLead", "\xC3\xC3\xA9", R1 + L"\u00E9" },
-    Utf8Case{ "overlongTwo", "\xC0\xAF", R2 },
-    Utf8Case{ "overlongFour", "\xF0\x80\x80\xAF", R4 },
-    Utf8Case{ "surrogate", "\xED\xA0\x80", R3 },
-    Utf8Case{ "aboveMax", "\xF4\x90\x80\x80", R4 },
-    Utf8Case{ "leadF5", "\xF5\x80", R2 },
-    Utf8Case{ "byteFF", "\xFF" "a", R1 + L"a" },
-    // The example of the Unicode standard's table 3-8.
-    Utf8Case{ "unicodeExample", "\x61\xF1\x80\x80\xE1\x80\xC2\x62\x80\x63\x80\xBF\x64",
-              L"a" + R3 + L"b" + R1 + L"c" + R2 + L"d" }));
+INSTANTIATE_TEST_SUITE_P(
+    Table, Utf8InvalidTest,
+    ::testing::Values(Utf8Case{ "loneContinuation",
+                                "a\x80"
+                                "b",
+                                L"a" + R1 + L"b" },
+                      Utf8Case{ "truncatedAtEnd", "\xE7\xA1", R1 },
+                      Utf8Case{ "truncatedBeforeAscii", "\xF0\x9F\x98z", R1 + L"z" },
+                      Utf8Case{ "truncatedBeforeLead", "\xC3\xC3\xA9", R1 + L"\u00E9" },
+                      Utf8Case{ "overlongTwo", "\xC0\xAF", R2 },
+                      Utf8Case{ "overlongFour", "\xF0\x80\x80\xAF", R4 },
+                      Utf8Case{ "surrogate", "\xED\xA0\x80", R3 },
+                      Utf8Case{ "aboveMax", "\xF4\x90\x80\x80", R4 },
+                      Utf8Case{ "leadF5", "\xF5\x80", R2 },
+                      Utf8Case{ "byteFF",
+                                "\xFF"
+                                "a",
+                                R1 + L"a" },
+                      // The example of the Unicode standard's table 3-8.
+                      Utf8Case{ "unicodeExample",
+                                "\x61\xF1\x80\x80\xE1\x80\xC2\x62\x80\x63\x80\xBF\x64",
+                                L"a" + R3 + L"b" + R1 + L"c" + R2 + L"d" }));
 
 TEST(Utf8Encode, InvalidWideValuesBecomeReplacement)
 {
     const std::string fffd = "\xEF\xBF\xBD";
-    const std::wstring bad = { L'a', static_cast<wchar_t>(0xD800), static_cast<wchar_t>(0xDFFF),
-                               static_cast<wchar_t>(0x110000), static_cast<wchar_t>(-1), L'b' };
+    const std::wstring bad = { L'a',
+                               static_cast<wchar_t>(0xD800),
+                               static_cast<wchar_t>(0xDFFF),
+                               static_cast<wchar_t>(0x110000),
+                               static_cast<wchar_t>(-1),
+                               L'b' };
     EXPECT_EQ(toNarrow(CP_UTF8, bad), "a" + fffd + fffd + fffd + fffd + "b");
 }
 
@@ -202,7 +220,10 @@ TEST_F(LocaleCodePageTest, UsedDefaultCharReportsReplacement)
 TEST(Charset, DoubleByte)
 {
     std::wstring wide;
-    ASSERT_TRUE(platform::CharsetToWide("GBK", "\xD3\xB2\xC5\xCC" "a", 5, wide));
+    ASSERT_TRUE(platform::CharsetToWide("GBK",
+                                        "\xD3\xB2\xC5\xCC"
+                                        "a",
+                                        5, wide));
     EXPECT_EQ(wide, L"\u786C\u76D8a");
     // A truncated pair at the end.
     ASSERT_TRUE(platform::CharsetToWide("GBK", "a\xD3", 2, wide));

@@ -1,10 +1,9 @@
-#include <gtest/gtest.h>
+#include "platform/WinModule.h"
 
 #include <cstring>
+#include <gtest/gtest.h>
 #include <string>
 #include <sys/stat.h>
-
-#include "platform/WinModule.h"
 
 namespace {
 

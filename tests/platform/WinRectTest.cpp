@@ -1,10 +1,10 @@
-#include <gtest/gtest.h>
-
-#include <climits>
-#include <ostream>
+#include "platform/WinRect.h"
 
 #include "platform/WinMath.h"
-#include "platform/WinRect.h"
+
+#include <climits>
+#include <gtest/gtest.h>
+#include <ostream>
 
 // Beside tagRECT in the global namespace, where lookup from gtest finds it.
 static std::ostream& operator<<(std::ostream& os, const tagRECT& r)
@@ -51,42 +51,57 @@ void checkCase(RectFn fn, const RectCase& c)
 }
 
 class IntersectRectTest : public ::testing::TestWithParam<RectCase> {};
-TEST_P(IntersectRectTest, MatchesWin32) { checkCase(IntersectRect, GetParam()); }
-INSTANTIATE_TEST_SUITE_P(Table, IntersectRectTest, ::testing::Values(
-    RectCase{ "overlap", kBox, { 5, 5, 15, 15 }, TRUE, { 5, 5, 10, 10 } },
-    RectCase{ "contained", kBox, { 2, 3, 4, 5 }, TRUE, { 2, 3, 4, 5 } },
-    RectCase{ "negative", { -10, -10, 0, 0 }, { -5, -5, 5, 5 }, TRUE, { -5, -5, 0, 0 } },
-    RectCase{ "touchRight", kBox, { 10, 0, 20, 10 }, FALSE, kZero },
-    RectCase{ "disjoint", kBox, { 20, 20, 30, 30 }, FALSE, kZero },
-    RectCase{ "emptyInside", kBox, { 5, 0, 5, 10 }, FALSE, kZero },
-    RectCase{ "invertedOverlap", { 10, 10, 0, 0 }, kBox, FALSE, kZero },
-    RectCase{ "bothInverted", { 10, 10, 0, 0 }, { 10, 10, 0, 0 }, FALSE, kZero }));
+TEST_P(IntersectRectTest, MatchesWin32)
+{
+    checkCase(IntersectRect, GetParam());
+}
+INSTANTIATE_TEST_SUITE_P(
+    Table, IntersectRectTest,
+    ::testing::Values(
+        RectCase{ "overlap", kBox, { 5, 5, 15, 15 }, TRUE, { 5, 5, 10, 10 } },
+        RectCase{ "contained", kBox, { 2, 3, 4, 5 }, TRUE, { 2, 3, 4, 5 } },
+        RectCase{ "negative", { -10, -10, 0, 0 }, { -5, -5, 5, 5 }, TRUE, { -5, -5, 0, 0 } },
+        RectCase{ "touchRight", kBox, { 10, 0, 20, 10 }, FALSE, kZero },
+        RectCase{ "disjoint", kBox, { 20, 20, 30, 30 }, FALSE, kZero },
+        RectCase{ "emptyInside", kBox, { 5, 0, 5, 10 }, FALSE, kZero },
+        RectCase{ "invertedOverlap", { 10, 10, 0, 0 }, kBox, FALSE, kZero },
+        RectCase{ "bothInverted", { 10, 10, 0, 0 }, { 10, 10, 0, 0 }, FALSE, kZero }));
 
 class UnionRectTest : public ::testing::TestWithParam<RectCase> {};
-TEST_P(UnionRectTest, MatchesWin32) { checkCase(UnionRect, GetParam()); }
-INSTANTIATE_TEST_SUITE_P(Table, UnionRectTest, ::testing::Values(
-    RectCase{ "overlap", kBox, { 5, 5, 15, 15 }, TRUE, { 0, 0, 15, 15 } },
-    RectCase{ "disjoint", { 0, 0, 1, 1 }, { 5, -5, 6, 6 }, TRUE, { 0, -5, 6, 6 } },
-    RectCase{ "firstEmpty", { 3, 3, 3, 90 }, { 1, 1, 2, 2 }, TRUE, { 1, 1, 2, 2 } },
-    RectCase{ "secondEmpty", { 1, 1, 2, 2 }, { -50, 3, 90, 3 }, TRUE, { 1, 1, 2, 2 } },
-    RectCase{ "firstInverted", { 9, 9, 1, 1 }, { 1, 1, 2, 2 }, TRUE, { 1, 1, 2, 2 } },
-    RectCase{ "bothEmpty", { 1, 1, 1, 5 }, { 9, 9, 1, 1 }, FALSE, kZero }));
+TEST_P(UnionRectTest, MatchesWin32)
+{
+    checkCase(UnionRect, GetParam());
+}
+INSTANTIATE_TEST_SUITE_P(
+    Table, UnionRectTest,
+    ::testing::Values(
+        RectCase{ "overlap", kBox, { 5, 5, 15, 15 }, TRUE, { 0, 0, 15, 15 } },
+        RectCase{ "disjoint", { 0, 0, 1, 1 }, { 5, -5, 6, 6 }, TRUE, { 0, -5, 6, 6 } },
+        RectCase{ "firstEmpty", { 3, 3, 3, 90 }, { 1, 1, 2, 2 }, TRUE, { 1, 1, 2, 2 } },
+        RectCase{ "secondEmpty", { 1, 1, 2, 2 }, { -50, 3, 90, 3 }, TRUE, { 1, 1, 2, 2 } },
+        RectCase{ "firstInverted", { 9, 9, 1, 1 }, { 1, 1, 2, 2 }, TRUE, { 1, 1, 2, 2 } },
+        RectCase{ "bothEmpty", { 1, 1, 1, 5 }, { 9, 9, 1, 1 }, FALSE, kZero }));
 
 class SubtractRectTest : public ::testing::TestWithParam<RectCase> {};
-TEST_P(SubtractRectTest, MatchesWin32) { checkCase(SubtractRect, GetParam()); }
-INSTANTIATE_TEST_SUITE_P(Table, SubtractRectTest, ::testing::Values(
-    RectCase{ "cutLeft", kBox, { -5, -5, 4, 15 }, TRUE, { 4, 0, 10, 10 } },
-    RectCase{ "cutRight", kBox, { 6, 0, 20, 10 }, TRUE, { 0, 0, 6, 10 } },
-    RectCase{ "cutTop", kBox, { 0, -1, 10, 3 }, TRUE, { 0, 3, 10, 10 } },
-    RectCase{ "cutBottom", kBox, { -1, 7, 11, 12 }, TRUE, { 0, 0, 10, 7 } },
-    RectCase{ "middleStrip", kBox, { 3, 0, 6, 10 }, TRUE, kBox },
-    RectCase{ "corner", kBox, { 5, 5, 15, 15 }, TRUE, kBox },
-    RectCase{ "sideNotFullHeight", kBox, { 0, 0, 4, 9 }, TRUE, kBox },
-    RectCase{ "disjoint", kBox, { 20, 20, 30, 30 }, TRUE, kBox },
-    RectCase{ "emptySubtrahend", kBox, { 0, 0, 0, 10 }, TRUE, kBox },
-    RectCase{ "covered", kBox, { -1, -1, 11, 11 }, FALSE, kZero },
-    RectCase{ "emptySource", { 0, 0, 0, 10 }, kBox, FALSE, kZero },
-    RectCase{ "invertedSource", { 10, 10, 0, 0 }, { 50, 50, 60, 60 }, FALSE, kZero }));
+TEST_P(SubtractRectTest, MatchesWin32)
+{
+    checkCase(SubtractRect, GetParam());
+}
+INSTANTIATE_TEST_SUITE_P(
+    Table, SubtractRectTest,
+    ::testing::Values(RectCase{ "cutLeft", kBox, { -5, -5, 4, 15 }, TRUE, { 4, 0, 10, 10 } },
+                      RectCase{ "cutRight", kBox, { 6, 0, 20, 10 }, TRUE, { 0, 0, 6, 10 } },
+                      RectCase{ "cutTop", kBox, { 0, -1, 10, 3 }, TRUE, { 0, 3, 10, 10 } },
+                      RectCase{ "cutBottom", kBox, { -1, 7, 11, 12 }, TRUE, { 0, 0, 10, 7 } },
+                      RectCase{ "middleStrip", kBox, { 3, 0, 6, 10 }, TRUE, kBox },
+                      RectCase{ "corner", kBox, { 5, 5, 15, 15 }, TRUE, kBox },
+                      RectCase{ "sideNotFullHeight", kBox, { 0, 0, 4, 9 }, TRUE, kBox },
+                      RectCase{ "disjoint", kBox, { 20, 20, 30, 30 }, TRUE, kBox },
+                      RectCase{ "emptySubtrahend", kBox, { 0, 0, 0, 10 }, TRUE, kBox },
+                      RectCase{ "covered", kBox, { -1, -1, 11, 11 }, FALSE, kZero },
+                      RectCase{ "emptySource", { 0, 0, 0, 10 }, kBox, FALSE, kZero },
+                      RectCase{
+                          "invertedSource", { 10, 10, 0, 0 }, { 50, 50, 60, 60 }, FALSE, kZero }));
 
 TEST(WinRect, DestinationMayAliasSource)
 {
@@ -169,25 +184,22 @@ TEST_P(MulDivTest, MatchesWin32)
     EXPECT_EQ(MulDiv(c.number, c.numerator, c.denominator), c.expected);
 }
 
-INSTANTIATE_TEST_SUITE_P(Table, MulDivTest, ::testing::Values(
-    MulDivCase{ 10, 3, 2, 15 },
-    // Halves round away from zero whatever the signs.
-    MulDivCase{ 5, 1, 2, 3 },
-    MulDivCase{ -5, 1, 2, -3 },
-    MulDivCase{ 5, 1, -2, -3 },
-    MulDivCase{ -5, -1, -2, -3 },
-    // Below and above a half.
-    MulDivCase{ 7, 1, 3, 2 },
-    MulDivCase{ -8, 1, 3, -3 },
-    MulDivCase{ 0, -1, 2, 0 },
-    // Zero divisor.
-    MulDivCase{ 1, 1, 0, -1 },
-    // The intermediate product needs 64 bits.
-    MulDivCase{ INT_MAX, INT_MAX, INT_MAX, INT_MAX },
-    MulDivCase{ 1000000, 1000000, 1000, 1000000000 },
-    MulDivCase{ INT_MIN, INT_MIN, INT_MIN, INT_MIN },
-    // Results beyond 32 bits.
-    MulDivCase{ INT_MAX, 2, 1, -1 },
-    MulDivCase{ INT_MIN, -1, 1, -1 }));
+INSTANTIATE_TEST_SUITE_P(Table, MulDivTest,
+                         ::testing::Values(MulDivCase{ 10, 3, 2, 15 },
+                                           // Halves round away from zero whatever the signs.
+                                           MulDivCase{ 5, 1, 2, 3 }, MulDivCase{ -5, 1, 2, -3 },
+                                           MulDivCase{ 5, 1, -2, -3 }, MulDivCase{ -5, -1, -2, -3 },
+                                           // Below and above a half.
+                                           MulDivCase{ 7, 1, 3, 2 }, MulDivCase{ -8, 1, 3, -3 },
+                                           MulDivCase{ 0, -1, 2, 0 },
+                                           // Zero divisor.
+                                           MulDivCase{ 1, 1, 0, -1 },
+                                           // The intermediate product needs 64 bits.
+                                           MulDivCase{ INT_MAX, INT_MAX, INT_MAX, INT_MAX },
+                                           MulDivCase{ 1000000, 1000000, 1000, 1000000000 },
+                                           MulDivCase{ INT_MIN, INT_MIN, INT_MIN, INT_MIN },
+                                           // Results beyond 32 bits.
+                                           MulDivCase{ INT_MAX, 2, 1, -1 },
+                                           MulDivCase{ INT_MIN, -1, 1, -1 }));
 
 } // namespace

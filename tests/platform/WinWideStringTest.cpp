@@ -1,12 +1,11 @@
-#include <gtest/gtest.h>
+#include "platform/WinWideString.h"
 
 #include <cerrno>
 #include <climits>
 #include <cwchar>
+#include <gtest/gtest.h>
 #include <ostream>
 #include <string>
-
-#include "platform/WinWideString.h"
 
 namespace {
 
@@ -33,21 +32,17 @@ TEST_P(WideParseTest, WtoiAndWtolAgree)
     EXPECT_EQ(_wtol(c.text), static_cast<long>(c.expected));
 }
 
-INSTANTIATE_TEST_SUITE_P(Table, WideParseTest, ::testing::Values(
-    ParseCase{ L"42", 42 },
-    ParseCase{ L"  -17abc", -17 },
-    ParseCase{ L"+8", 8 },
-    ParseCase{ L"\t\n\v\f\r 12", 12 },
-    ParseCase{ L"12.9", 12 },
-    ParseCase{ L"abc", 0 },
-    ParseCase{ L"", 0 },
-    ParseCase{ L"- 5", 0 },
-    ParseCase{ L"2147483647", INT_MAX },
-    ParseCase{ L"-2147483648", INT_MIN },
-    // 32-bit saturation, as with the Windows long.
-    ParseCase{ L"2147483648", INT_MAX },
-    ParseCase{ L"99999999999999999999999", INT_MAX },
-    ParseCase{ L"-99999999999999999999999", INT_MIN }));
+INSTANTIATE_TEST_SUITE_P(Table, WideParseTest,
+                         ::testing::Values(ParseCase{ L"42", 42 }, ParseCase{ L"  -17abc", -17 },
+                                           ParseCase{ L"+8", 8 }, ParseCase{ L"\t\n\v\f\r 12", 12 },
+                                           ParseCase{ L"12.9", 12 }, ParseCase{ L"abc", 0 },
+                                           ParseCase{ L"", 0 }, ParseCase{ L"- 5", 0 },
+                                           ParseCase{ L"2147483647", INT_MAX },
+                                           ParseCase{ L"-2147483648", INT_MIN },
+                                           // 32-bit saturation, as with the Windows long.
+                                           ParseCase{ L"2147483648", INT_MAX },
+                                           ParseCase{ L"99999999999999999999999", INT_MAX },
+                                           ParseCase{ L"-99999999999999999999999", INT_MIN }));
 
 TEST(WideParse, OverflowSetsErrnoAndNullGivesZero)
 {
@@ -81,18 +76,16 @@ TEST_P(LtowTest, MatchesMsRuntime)
     EXPECT_EQ(buf[std::wcslen(buf) + 1], L'#');
 }
 
-INSTANTIATE_TEST_SUITE_P(Table, LtowTest, ::testing::Values(
-    FormatCase{ 0, 10, L"0" },
-    FormatCase{ 24, 10, L"24" },
-    FormatCase{ -1, 10, L"-1" },
-    FormatCase{ INT_MIN, 10, L"-2147483648" },
-    FormatCase{ 255, 16, L"ff" },
-    FormatCase{ 35, 36, L"z" },
-    // Radixes other than ten show the unsigned 32-bit value.
-    FormatCase{ -1, 16, L"ffffffff" },
-    FormatCase{ -1, 2, L"11111111111111111111111111111111" },
-    FormatCase{ 0x100000005L, 10, L"5" },
-    FormatCase{ 123, 1, L"" }));
+INSTANTIATE_TEST_SUITE_P(Table, LtowTest,
+                         ::testing::Values(FormatCase{ 0, 10, L"0" }, FormatCase{ 24, 10, L"24" },
+                                           FormatCase{ -1, 10, L"-1" },
+                                           FormatCase{ INT_MIN, 10, L"-2147483648" },
+                                           FormatCase{ 255, 16, L"ff" }, FormatCase{ 35, 36, L"z" },
+                                           // Radixes other than ten show the unsigned 32-bit value.
+                                           FormatCase{ -1, 16, L"ffffffff" },
+                                           FormatCase{ -1, 2, L"11111111111111111111111111111111" },
+                                           FormatCase{ 0x100000005L, 10, L"5" },
+                                           FormatCase{ 123, 1, L"" }));
 
 TEST(WcscpyS, CopiesWhenTheTerminatorFits)
 {

@@ -1,9 +1,9 @@
 // The playback manager against the real library, with every call traced.
 
 #include "preview/PlayManagerUILogic.h"
-#include "tests/vexplay/PlaybackStage.h"
 #include "tests/preview/PreviewTestSupport.h"
 #include "tests/preview/VexplayTrace.h"
+#include "tests/vexplay/PlaybackStage.h"
 #include "vexplay/vexplay.h"
 
 #include <QTest>
@@ -20,8 +20,7 @@ std::string LongClip()
     return TALLIX_APP_DIR "/1low.kvf";
 }
 
-class PlayManager : public PreviewTest {
-};
+class PlayManager : public PreviewTest {};
 
 bool Mapped(const char* library)
 {

@@ -1,10 +1,10 @@
 #include "tests/preview/PreviewTestSupport.h"
 
 #include "language/LangString.h"
-#include "tests/vexplay/PlaybackStage.h"
-#include "sf/qt/SFApplication.h"
 #include "preview/ScenePreview.h"
+#include "sf/qt/SFApplication.h"
 #include "tests/preview/VexplayTrace.h"
+#include "tests/vexplay/PlaybackStage.h"
 
 #include <QApplication>
 #include <QFile>
@@ -13,7 +13,8 @@
 #include <cstdio>
 #include <cstdlib>
 
-const std::vector<std::string> kClearOps = { "Cb125:null", "FileEnd:null", "Cb157:null", "Cb109:null" };
+const std::vector<std::string> kClearOps = { "Cb125:null", "FileEnd:null", "Cb157:null",
+                                             "Cb109:null" };
 const std::vector<std::string> kPlayOps = { "PlayFlag:1", "FileEnd:set", "Play" };
 
 std::vector<std::string> Join(std::initializer_list<std::vector<std::string>> parts)
@@ -94,7 +95,8 @@ int SuccessfulPlays()
 Watchdog::Watchdog(const char* what, int ms)
     : m_thread([this, what, ms] {
           std::unique_lock<std::mutex> lock(m_mutex);
-          if (!m_done.wait_for(lock, std::chrono::milliseconds(ms), [this] { return m_finished; })) {
+          if (!m_done.wait_for(lock, std::chrono::milliseconds(ms),
+                               [this] { return m_finished; })) {
               std::fprintf(stderr, "Hung: %s\n", what);
               std::_Exit(3);
           }

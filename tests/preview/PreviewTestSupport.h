@@ -4,13 +4,13 @@
 // PlaybackStage's.
 
 #include <QString>
-#include <condition_variable>
-#include <mutex>
-#include <thread>
 #include <QTemporaryDir>
+#include <condition_variable>
 #include <functional>
 #include <gtest/gtest.h>
+#include <mutex>
 #include <string>
+#include <thread>
 #include <vector>
 
 class QWidget;

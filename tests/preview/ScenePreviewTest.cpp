@@ -1,9 +1,9 @@
 // The preview dialog run modally the way the channel page runs it.
 
-#include "tests/vexplay/PlaybackStage.h"
-#include "tests/preview/PreviewTestSupport.h"
 #include "sf/qt/SFQTVideoWindow.h"
+#include "tests/preview/PreviewTestSupport.h"
 #include "tests/preview/VexplayTrace.h"
+#include "tests/vexplay/PlaybackStage.h"
 
 #include <QAbstractButton>
 #include <QImage>
@@ -54,15 +54,15 @@ void ExpectNoVideo(QWidget* dialog)
         EXPECT_EQ(shown.pixel(pt), expected.pixel(pt)) << pt.x() << "," << pt.y();
 }
 
-class ScenePreview : public PreviewTest {
-};
+class ScenePreview : public PreviewTest {};
 
 TEST_F(ScenePreview, PlaysTheScenesClipUntilTheCloseButton)
 {
     std::size_t beforeClose = 0;
     const int result = RunPreview(2, [&](QWidget* dialog) {
         EXPECT_EQ(dialog->windowTitle(), QStringLiteral("Scene 2"));
-        ASSERT_TRUE(PlaybackStage::WaitFor([dialog] { return Playing(dialog); }, 5000)) << "no frame shown";
+        ASSERT_TRUE(PlaybackStage::WaitFor([dialog] { return Playing(dialog); }, 5000))
+            << "no frame shown";
         const std::vector<VexCall> calls = VexTrace::Calls();
         EXPECT_EQ(VexTrace::Ops(), Join({ { "GetPort" }, kClearOps, { "OpenFile" }, kPlayOps }));
         ASSERT_EQ(calls.size(), 9u);
@@ -76,8 +76,7 @@ TEST_F(ScenePreview, PlaysTheScenesClipUntilTheCloseButton)
     EXPECT_EQ(VexTrace::Ops(beforeClose), Join({ kClearOps, { "CloseFile" } }));
 }
 
-class ScenePreviewOutside : public ScenePreview, public testing::WithParamInterface<int> {
-};
+class ScenePreviewOutside : public ScenePreview, public testing::WithParamInterface<int> {};
 
 TEST_P(ScenePreviewOutside, OpensWithNoVideoAndCloses)
 {
@@ -99,8 +98,9 @@ TEST_F(ScenePreview, MissingClipLeavesNoVideoAndAWorkingCloseButton)
     const int result = RunPreview(2, [](QWidget* dialog) {
         PlaybackStage::WaitFor([] { return false; }, 400);
         ExpectNoVideo(dialog);
-        EXPECT_EQ(VexTrace::Ops(),
-                  Join({ { "GetPort" }, kClearOps, { "OpenFile" }, kClearOps, kPlayOps, kClearOps }));
+        EXPECT_EQ(
+            VexTrace::Ops(),
+            Join({ { "GetPort" }, kClearOps, { "OpenFile" }, kClearOps, kPlayOps, kClearOps }));
         ClickClose(dialog);
     });
     EXPECT_EQ(result, 2);

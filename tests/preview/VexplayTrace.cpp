@@ -4,7 +4,6 @@
 
 #include <QCoreApplication>
 #include <QThread>
-
 #include <chrono>
 #include <mutex>
 #include <thread>
@@ -97,7 +96,8 @@ std::vector<std::string> Ops(std::size_t first)
     const std::vector<VexCall> calls = Calls();
     for (std::size_t i = first; i < calls.size(); ++i) {
         const VexCall& c = calls[i];
-        const bool withArg = c.op != "GetPort" && c.op != "OpenFile" && c.op != "CloseFile" && c.op != "Play";
+        const bool withArg =
+            c.op != "GetPort" && c.op != "OpenFile" && c.op != "CloseFile" && c.op != "Play";
         ops.push_back(withArg ? c.op + ":" + c.arg : c.op);
     }
     return ops;
@@ -143,32 +143,36 @@ int __wrap_vexplay_Play(int port, void* hWnd)
 int __wrap_vexplay_SetPlayFlag(int port, int flag)
 {
     MaybeDelay("PlayFlag");
-    return Record("PlayFlag", port, std::to_string(flag), nullptr, __real_vexplay_SetPlayFlag(port, flag));
+    return Record("PlayFlag", port, std::to_string(flag), nullptr,
+                  __real_vexplay_SetPlayFlag(port, flag));
 }
 
 int __wrap_vexplay_SetFileEndCallback(int port, VEXPLAY_CALLBACK callback, void* user)
 {
     MaybeDelay("FileEnd");
     return Record("FileEnd", port, Set(callback), user,
-        __real_vexplay_SetFileEndCallback(port, callback, user));
+                  __real_vexplay_SetFileEndCallback(port, callback, user));
 }
 
 int __wrap_vexplay_SetCallback125(int port, VEXPLAY_CALLBACK callback, void* user)
 {
     MaybeDelay("Cb125");
-    return Record("Cb125", port, Set(callback), user, __real_vexplay_SetCallback125(port, callback, user));
+    return Record("Cb125", port, Set(callback), user,
+                  __real_vexplay_SetCallback125(port, callback, user));
 }
 
 int __wrap_vexplay_SetCallback157(int port, VEXPLAY_CALLBACK callback, void* user)
 {
     MaybeDelay("Cb157");
-    return Record("Cb157", port, Set(callback), user, __real_vexplay_SetCallback157(port, callback, user));
+    return Record("Cb157", port, Set(callback), user,
+                  __real_vexplay_SetCallback157(port, callback, user));
 }
 
 int __wrap_vexplay_SetCallback109(int port, VEXPLAY_CALLBACK callback, void* user)
 {
     MaybeDelay("Cb109");
-    return Record("Cb109", port, Set(callback), user, __real_vexplay_SetCallback109(port, callback, user));
+    return Record("Cb109", port, Set(callback), user,
+                  __real_vexplay_SetCallback109(port, callback, user));
 }
 
 } // extern "C"

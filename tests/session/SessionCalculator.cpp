@@ -1,7 +1,7 @@
 #include "tests/session/SessionCalculator.h"
 
-#include "calculator/CalculatorBottom.h"
 #include "Config/VexUISetting.h"
+#include "calculator/CalculatorBottom.h"
 #include "language/LangString.h"
 #include "sf/SFRadioBox.h"
 #include "sf/SFStatic.h"
@@ -82,9 +82,9 @@ void CSessionCalculator::SwitchTo(int mode, const char* name)
     QWidget* radio = Find("radio", Panel::kModeRadioIds[mode]);
     m_user.Click(radio);
     const auto* check = dynamic_cast<CSFRadioBox*>(radio);
-    m_user.Check(m_panel->GetMode() == mode && check && check->GetCheck() == 1,
-                 QStringLiteral("the radio \"%1\" did not switch the mode")
-                     .arg(QLatin1String(name)));
+    m_user.Check(
+        m_panel->GetMode() == mode && check && check->GetCheck() == 1,
+        QStringLiteral("the radio \"%1\" did not switch the mode").arg(QLatin1String(name)));
 }
 
 void CSessionCalculator::Choose(QComboBox* combo, int index, const QString& what)
@@ -118,14 +118,15 @@ void CSessionCalculator::DiskRequirement(double total)
         gb /= 1024;
         ++unit;
     }
-    CheckAnswer(CSessionUser::Word(L"Request Capacity:"), QString::asprintf("%.2f%s", gb, units[unit]),
+    CheckAnswer(CSessionUser::Word(L"Request Capacity:"),
+                QString::asprintf("%.2f%s", gb, units[unit]),
                 QStringLiteral("disk requirement for 32 days"));
 }
 
 void CSessionCalculator::RecordingDays(double total)
 {
     SwitchTo(Panel::MODE_RECORDING_DAY, "Recording day");
-    Choose(Combo(Panel::ID_COMBO_CAPACITY), 3, QStringLiteral("storage capacity"));  // "1TB"
+    Choose(Combo(Panel::ID_COMBO_CAPACITY), 3, QStringLiteral("storage capacity")); // "1TB"
     const double usable = g_UISetting.m_nRecordblePersentage * 953.67424 / 100;
     CheckAnswer(CSessionUser::Word(L"Recording Days:"), DaysAnswer(usable / GbPerDay(total)),
                 QStringLiteral("recording days on 1TB"));
@@ -139,26 +140,26 @@ void CSessionCalculator::RecordingDays(double total)
         m_user.Check(edit && edit->isVisible(), what + QStringLiteral(" not shown"));
         m_user.Type(edit, QString::fromLatin1(hours[day]), what);
     }
-    const QRegularExpression weekly(QStringLiteral("^\\d+ %1 \\d+ %2 \\d+\\.\\d\\d %3$")
-                                        .arg(QRegularExpression::escape(CSessionUser::Word(L"Week")),
-                                             QRegularExpression::escape(CSessionUser::Word(L"Day")),
-                                             QRegularExpression::escape(CSessionUser::Word(L"Hour"))));
+    const QRegularExpression weekly(
+        QStringLiteral("^\\d+ %1 \\d+ %2 \\d+\\.\\d\\d %3$")
+            .arg(QRegularExpression::escape(CSessionUser::Word(L"Week")),
+                 QRegularExpression::escape(CSessionUser::Word(L"Day")),
+                 QRegularExpression::escape(CSessionUser::Word(L"Hour"))));
     m_user.Check(weekly.match(Value()).hasMatch(),
                  QStringLiteral("weekly answer \"%1\"").arg(Value()));
     // Too many hours and a letter: both mended to a full day.
     m_user.Type(DayHours(6), QStringLiteral("25"), QStringLiteral("Saturday"));
-    m_user.CheckText(EditText(DayHours(6)), QStringLiteral("24"),
-                     QStringLiteral("Saturday hours"));
+    m_user.CheckText(EditText(DayHours(6)), QStringLiteral("24"), QStringLiteral("Saturday hours"));
     m_user.Type(DayHours(5), QStringLiteral("x"), QStringLiteral("Friday"));
-    m_user.CheckText(EditText(DayHours(5)), QStringLiteral("24"),
-                     QStringLiteral("Friday hours"));
+    m_user.CheckText(EditText(DayHours(5)), QStringLiteral("24"), QStringLiteral("Friday hours"));
 
     // A typed capacity of 2 TB.
-    Choose(Combo(Panel::ID_COMBO_CAPACITY), 13, QStringLiteral("storage capacity"));  // "Customize"
+    Choose(Combo(Panel::ID_COMBO_CAPACITY), 13, QStringLiteral("storage capacity")); // "Customize"
     m_user.CheckText(EditText(Find("edit", Panel::ID_EDIT_CUSTOM_CAPACITY)), QStringLiteral("0"),
                      QStringLiteral("custom capacity on \"Customize\""));
-    m_user.Type(Find("edit", Panel::ID_EDIT_CUSTOM_CAPACITY), QStringLiteral("2"), QStringLiteral("capacity"));
-    Choose(Combo(Panel::ID_COMBO_CAPACITY_UNIT), 1, QStringLiteral("capacity unit"));  // "TB"
+    m_user.Type(Find("edit", Panel::ID_EDIT_CUSTOM_CAPACITY), QStringLiteral("2"),
+                QStringLiteral("capacity"));
+    Choose(Combo(Panel::ID_COMBO_CAPACITY_UNIT), 1, QStringLiteral("capacity unit")); // "TB"
     m_user.Check(weekly.match(Value()).hasMatch(),
                  QStringLiteral("weekly answer on 2 TB \"%1\"").arg(Value()));
 
@@ -173,9 +174,9 @@ void CSessionCalculator::RaidCapacity()
     SwitchTo(Panel::MODE_RAID, "RAID Calculator");
     CheckAnswer(CSessionUser::Word(L"Available Capacity:"), QStringLiteral("3.60TB"),
                 QStringLiteral("RAID capacity on the defaults"));
-    Choose(Combo(Panel::ID_COMBO_RAID_LEVEL), 1, QStringLiteral("RAID level"));  // "RAID 5"
-    Choose(Combo(Panel::ID_COMBO_RAID_BAYS), 1, QStringLiteral("bays"));  // "16 bay"
-    Choose(Combo(Panel::ID_COMBO_RAID_DISK), 3, QStringLiteral("disk size"));  // "4 TB"
+    Choose(Combo(Panel::ID_COMBO_RAID_LEVEL), 1, QStringLiteral("RAID level")); // "RAID 5"
+    Choose(Combo(Panel::ID_COMBO_RAID_BAYS), 1, QStringLiteral("bays"));        // "16 bay"
+    Choose(Combo(Panel::ID_COMBO_RAID_DISK), 3, QStringLiteral("disk size"));   // "4 TB"
     CheckAnswer(CSessionUser::Word(L"Available Capacity:"), QStringLiteral("43.20TB"),
                 QStringLiteral("KTR6, RAID 5, 16 bays of 4 TB"));
 
@@ -184,8 +185,8 @@ void CSessionCalculator::RaidCapacity()
     const QComboBox* bays = Combo(Panel::ID_COMBO_RAID_BAYS);
     m_user.Check(bays && bays->count() == 3 && bays->currentText() == QStringLiteral("24 bay"),
                  QStringLiteral("bays of MQS71 with RAID 5"));
-    Choose(Combo(Panel::ID_COMBO_RAID_BAYS), 2, QStringLiteral("bays"));  // "48 bay"
-    Choose(Combo(Panel::ID_COMBO_RAID_DISK), 15, QStringLiteral("disk size"));  // "16 TB"
+    Choose(Combo(Panel::ID_COMBO_RAID_BAYS), 2, QStringLiteral("bays"));       // "48 bay"
+    Choose(Combo(Panel::ID_COMBO_RAID_DISK), 15, QStringLiteral("disk size")); // "16 TB"
     CheckAnswer(CSessionUser::Word(L"Available Capacity:"), QStringLiteral("590.40TB"),
                 QStringLiteral("MQS71, RAID 5, 48 bays of 16 TB"));
 }
@@ -194,14 +195,14 @@ void CSessionCalculator::RequestDevice(double total)
 {
     SwitchTo(Panel::MODE_RAID2, "RAID Calculator2");
     const QWidget* tips = Find(QString::fromLatin1(Panel::kNameDevicesTips));
-    m_user.Check(tips && tips->isVisible(),
-                 QStringLiteral("the devices tip is not shown"));
+    m_user.Check(tips && tips->isVisible(), QStringLiteral("the devices tip is not shown"));
     m_user.Type(Find(QString::fromLatin1(Panel::kNameRaid2Days)), QStringLiteral("30"),
                 QStringLiteral("recording days"), true);
-    Choose(Combo(Panel::ID_COMBO_RAID2_DEV_TYPE), 1, QStringLiteral("device type"));  // "MQS50"
-    Choose(Combo(Panel::ID_COMBO_RAID2_LEVEL), 2, QStringLiteral("RAID level"));  // "RAID 6"
-    Choose(Combo(Panel::ID_COMBO_RAID2_BAYS), 3, QStringLiteral("bays"));  // "48 bay"
-    Choose(qobject_cast<QComboBox*>(Find(QString::fromLatin1(Panel::kNameRaid2Disk))), 1, QStringLiteral("disk size"));  // "2 TB"
+    Choose(Combo(Panel::ID_COMBO_RAID2_DEV_TYPE), 1, QStringLiteral("device type")); // "MQS50"
+    Choose(Combo(Panel::ID_COMBO_RAID2_LEVEL), 2, QStringLiteral("RAID level"));     // "RAID 6"
+    Choose(Combo(Panel::ID_COMBO_RAID2_BAYS), 3, QStringLiteral("bays"));            // "48 bay"
+    Choose(qobject_cast<QComboBox*>(Find(QString::fromLatin1(Panel::kNameRaid2Disk))), 1,
+           QStringLiteral("disk size")); // "2 TB"
 
     const double capacity = (2 * 36) * 0.9 * 1024;
     const double ratio = 30 * GbPerDay(total) / capacity;
@@ -209,7 +210,8 @@ void CSessionCalculator::RequestDevice(double total)
     if (static_cast<double>(devices) < ratio)
         ++devices;
     const QString word = CSessionUser::Word(devices > 1 ? L"Devices" : L"Device");
-    CheckAnswer(CSessionUser::Word(L"Request Device:"), QString::number(devices) + QLatin1Char(' ') + word,
+    CheckAnswer(CSessionUser::Word(L"Request Device:"),
+                QString::number(devices) + QLatin1Char(' ') + word,
                 QStringLiteral("devices for 30 days on MQS50, RAID 6, 48 bays of 2 TB"));
 }
 

@@ -1,12 +1,12 @@
 #include "tests/session/SessionRows.h"
 
 #include "calculator/CalculatorBottom.h"
-#include "tests/session/SessionCalculator.h"
+#include "sf/SFStatic.h"
 #include "sf/qt/SFQTListCtrl.h"
 #include "sf/qt/SFQtConvert.h"
-#include "sf/SFStatic.h"
-#include "tests/session/SessionUser.h"
 #include "streams/TallixEventImp.h"
+#include "tests/session/SessionCalculator.h"
+#include "tests/session/SessionUser.h"
 
 #include <QComboBox>
 #include <QLineEdit>
@@ -17,8 +17,17 @@ namespace {
 
 using Reg = CSFQTListCtrl;
 
-enum Column { ColNumber, ColChannels, ColCompression, ColEnvironment, ColResolution,
-              ColFrameRate, ColAudio, ColBitrate, ColOperation };
+enum Column {
+    ColNumber,
+    ColChannels,
+    ColCompression,
+    ColEnvironment,
+    ColResolution,
+    ColFrameRate,
+    ColAudio,
+    ColBitrate,
+    ColOperation
+};
 
 constexpr int kFps30 = 7;
 constexpr int kFps45 = 8;
@@ -239,9 +248,8 @@ void CSessionRows::CheckRow(int row, const Plan& p)
 
     const int channels = (p.channelsTyped ? p.channelsTyped : 1) + p.channelSteps;
     m_user.Check(Channels(row) == channels,
-                 where + QStringLiteral(": %1 channels, expected %2")
-                             .arg(Channels(row))
-                             .arg(channels));
+                 where +
+                     QStringLiteral(": %1 channels, expected %2").arg(Channels(row)).arg(channels));
 }
 
 double CSessionRows::VisibleTotal() const
@@ -260,10 +268,11 @@ void CSessionRows::CheckTotals(const QString& when)
             channels += Channels(row);
     }
     const CCalculatorBottom* calc = m_page->GetCalculator();
-    m_user.CheckText(LabelText(CSessionCalculator::Label(calc, CCalculatorBottom::kNameChannelCount)), QString::number(channels),
-                     QStringLiteral("channel count ") + when);
-    m_user.CheckText(LabelText(CSessionCalculator::Label(calc, CCalculatorBottom::kNameBitrate)), RateLabel(VisibleTotal()),
-                     QStringLiteral("total bit rate ") + when);
+    m_user.CheckText(LabelText(
+                         CSessionCalculator::Label(calc, CCalculatorBottom::kNameChannelCount)),
+                     QString::number(channels), QStringLiteral("channel count ") + when);
+    m_user.CheckText(LabelText(CSessionCalculator::Label(calc, CCalculatorBottom::kNameBitrate)),
+                     RateLabel(VisibleTotal()), QStringLiteral("total bit rate ") + when);
 }
 
 void CSessionRows::CheckNumbering(const QString& when)
@@ -299,7 +308,8 @@ void CSessionRows::ClearAll()
     m_user.Click(PageChild("label_clear"));
     m_user.Check(Rows() == 0, QStringLiteral("\"Clear All\" left %1 rows").arg(Rows()));
     CheckTotals(QStringLiteral("after \"Clear All\""));
-    m_user.CheckText(LabelText(CSessionCalculator::Label(m_page->GetCalculator(), CCalculatorBottom::kNameBitrate)),
+    m_user.CheckText(LabelText(CSessionCalculator::Label(m_page->GetCalculator(),
+                                                         CCalculatorBottom::kNameBitrate)),
                      QStringLiteral("0.00 kbps"), QStringLiteral("total after \"Clear All\""));
 }
 

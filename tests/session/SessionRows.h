@@ -35,14 +35,14 @@ public:
 private:
     // What one row gets; varied by its number.
     struct Plan {
-        int compression;  // 0 leaves the row incomplete
+        int compression; // 0 leaves the row incomplete
         int scene;
         int resolution;
         int frameRate;
         QString customRate;
         QString customRateShown;
         int channelSteps;  // arrow presses on the spinner
-        int channelsTyped;  // 0: none typed
+        int channelsTyped; // 0: none typed
         bool audio;
         // Bit rates typed in turn, and what the edit keeps of each.
         QStringList typedRates;

@@ -2,14 +2,14 @@
 
 #include "calculator/CalculatorBottom.h"
 #include "language/LangString.h"
+#include "sf/SFStatic.h"
+#include "sf/qt/SFQtConvert.h"
 #include "shell/MainDlgEventImp.h"
 #include "shell/ToolBarEventImp.h"
+#include "streams/TallixEventImp.h"
 #include "tests/session/PaintCounter.h"
-#include "sf/qt/SFQtConvert.h"
-#include "sf/SFStatic.h"
 #include "tests/session/SessionCalculator.h"
 #include "tests/session/SessionRows.h"
-#include "streams/TallixEventImp.h"
 
 #include <QAbstractButton>
 #include <QDialog>
@@ -40,10 +40,14 @@ void CSessionScript::Step(const char* name, F work)
     qCInfo(lcSession, "%-16s %7lld ms  %-6s | %s channels, %s | %s %s", name,
            static_cast<long long>(timer.elapsed()),
            m_user.Failures() > failuresBefore ? "FAILED" : "ok",
-           qUtf8Printable(CSessionUser::LabelText(CSessionCalculator::Label(calc, CCalculatorBottom::kNameChannelCount))),
-           qUtf8Printable(CSessionUser::LabelText(CSessionCalculator::Label(calc, CCalculatorBottom::kNameBitrate))),
-           qUtf8Printable(CSessionUser::LabelText(CSessionCalculator::Label(calc, CCalculatorBottom::kNameResultCaption))),
-           qUtf8Printable(CSessionUser::LabelText(CSessionCalculator::Label(calc, CCalculatorBottom::kNameResultValue))));
+           qUtf8Printable(CSessionUser::LabelText(
+               CSessionCalculator::Label(calc, CCalculatorBottom::kNameChannelCount))),
+           qUtf8Printable(CSessionUser::LabelText(
+               CSessionCalculator::Label(calc, CCalculatorBottom::kNameBitrate))),
+           qUtf8Printable(CSessionUser::LabelText(
+               CSessionCalculator::Label(calc, CCalculatorBottom::kNameResultCaption))),
+           qUtf8Printable(CSessionUser::LabelText(
+               CSessionCalculator::Label(calc, CCalculatorBottom::kNameResultValue))));
 }
 
 void CSessionScript::Run()
@@ -86,36 +90,45 @@ void CSessionScript::CheckEmptyWindow()
     QWidget* window = SFWidgetFromHandle(m_main->GetUIWnd());
     m_user.Check(window->isVisible() && window->size() == QSize(1100, 750),
                  QStringLiteral("the main window is not shown at 1100 by 750"));
-    m_user.CheckText(window->windowTitle(), CSessionUser::Word(L"ProductName"), QStringLiteral("window title"));
+    m_user.CheckText(window->windowTitle(), CSessionUser::Word(L"ProductName"),
+                     QStringLiteral("window title"));
     CCalculatorBottom* calc = m_main->GetPageEvent()->GetCalculator();
-    m_user.CheckText(CSessionUser::LabelText(CSessionCalculator::Label(calc, CCalculatorBottom::kNameChannelCount)), QStringLiteral("0"),
-                     QStringLiteral("channels at start"));
-    m_user.CheckText(CSessionUser::LabelText(CSessionCalculator::Label(calc, CCalculatorBottom::kNameBitrate)), QStringLiteral("0.00 kbps"),
-                     QStringLiteral("total at start"));
-    m_user.CheckText(CSessionUser::LabelText(CSessionCalculator::Label(calc, CCalculatorBottom::kNameResultValue)), QStringLiteral("0.00GB"),
-                     QStringLiteral("answer at start"));
+    m_user.CheckText(CSessionUser::LabelText(
+                         CSessionCalculator::Label(calc, CCalculatorBottom::kNameChannelCount)),
+                     QStringLiteral("0"), QStringLiteral("channels at start"));
+    m_user.CheckText(CSessionUser::LabelText(
+                         CSessionCalculator::Label(calc, CCalculatorBottom::kNameBitrate)),
+                     QStringLiteral("0.00 kbps"), QStringLiteral("total at start"));
+    m_user.CheckText(CSessionUser::LabelText(
+                         CSessionCalculator::Label(calc, CCalculatorBottom::kNameResultValue)),
+                     QStringLiteral("0.00GB"), QStringLiteral("answer at start"));
 }
 
 void CSessionScript::PreviewScene(int scene, QWidget* previewButton)
 {
     const QString what = QStringLiteral("preview of scene %1").arg(scene);
-    m_user.ClickIntoModal(previewButton, [&](QDialog* dialog) {
-        m_user.CheckText(dialog->windowTitle(), CSessionUser::Word(scene == 1 ? L"Scene 1"
-                                                     : scene == 2 ? L"Scene 2" : L"Scene 3"),
-                         what + QStringLiteral(" title"));
-        QWidget* surface = nullptr;
-        const bool playing = m_user.WaitUntil([&] {
-            surface = dialog->findChild<QWidget*>(QStringLiteral("vexplaySurface"));
-            return surface && surface->isVisible();
-        });
-        if (m_user.Check(playing, what + QStringLiteral(" showed no frame"))) {
-            CPaintCounter paints(surface);
-            m_user.Idle(m_previewMs);
-            m_user.Check(paints.Paints() >= 2,
-                         what + QStringLiteral(" painted %1 frames").arg(paints.Paints()));
-        }
-        m_user.Click(dialog->findChild<QAbstractButton*>(QStringLiteral("button_2")));
-    }, what);
+    m_user.ClickIntoModal(
+        previewButton,
+        [&](QDialog* dialog) {
+            m_user.CheckText(dialog->windowTitle(),
+                             CSessionUser::Word(scene == 1   ? L"Scene 1"
+                                                : scene == 2 ? L"Scene 2"
+                                                             : L"Scene 3"),
+                             what + QStringLiteral(" title"));
+            QWidget* surface = nullptr;
+            const bool playing = m_user.WaitUntil([&] {
+                surface = dialog->findChild<QWidget*>(QStringLiteral("vexplaySurface"));
+                return surface && surface->isVisible();
+            });
+            if (m_user.Check(playing, what + QStringLiteral(" showed no frame"))) {
+                CPaintCounter paints(surface);
+                m_user.Idle(m_previewMs);
+                m_user.Check(paints.Paints() >= 2,
+                             what + QStringLiteral(" painted %1 frames").arg(paints.Paints()));
+            }
+            m_user.Click(dialog->findChild<QAbstractButton*>(QStringLiteral("button_2")));
+        },
+        what);
 }
 
 void CSessionScript::Close()

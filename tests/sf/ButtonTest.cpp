@@ -2,14 +2,13 @@
 // reports and its picture; the image toggle: release inside flips and
 // reports, outside does nothing, SetCheck is silent.
 
-#include "tests/sf/SfTestSupport.h"
-
 #include "sf/ISFButtonEvent.h"
 #include "sf/ISFRadioBoxEvent.h"
 #include "sf/SFFactory.h"
+#include "sf/SFView.h"
 #include "sf/qt/SFQTButton.h"
 #include "sf/qt/SFQTRadioBox.h"
-#include "sf/SFView.h"
+#include "tests/sf/SfTestSupport.h"
 
 #include <QColor>
 #include <QCursor>
@@ -70,7 +69,8 @@ public:
         palette.setColor(QPalette::Window, Qt::white);
         m_top.setPalette(palette);
         m_view = SFCreateView(&m_viewHandler);
-        m_view->Create(L"", L"", SF_WS_VISIBLE, tagRECT{ 0, 0, size.width(), size.height() }, &m_top, 3);
+        m_view->Create(L"", L"", SF_WS_VISIBLE, tagRECT{ 0, 0, size.width(), size.height() },
+                       &m_top, 3);
         m_view->SetBGClr(0x00FFFFFFu);
         log.clear();
     }
@@ -109,11 +109,19 @@ QImage GrabOnHost(QWidget* widget)
     return top->grab(where).toImage().convertToFormat(QImage::Format_RGB32);
 }
 
-
 const tagRECT kRect{ 20, 20, 120, 50 }; // 100 by 30
 
-enum class Act { Enter, Leave, PressLeft, PressRight, ReleaseLeft, ReleaseRight,
-                 DragOutLeft, ReleaseOutsideLeft, FocusOut };
+enum class Act {
+    Enter,
+    Leave,
+    PressLeft,
+    PressRight,
+    ReleaseLeft,
+    ReleaseRight,
+    DragOutLeft,
+    ReleaseOutsideLeft,
+    FocusOut
+};
 
 struct Step {
     Act act;
@@ -150,15 +158,33 @@ TEST_P(ButtonStates, FollowTheMouseAndReport)
     int index = 0;
     for (const Step& step : GetParam().steps) {
         switch (step.act) {
-        case Act::Enter: QTest::mouseMove(button, inside); break;
-        case Act::Leave: QTest::mouseMove(&host.Top(), QPoint(390, 10)); break;
-        case Act::PressLeft: QTest::mousePress(button, Qt::LeftButton, {}, inside); break;
-        case Act::PressRight: QTest::mousePress(button, Qt::RightButton, {}, inside); break;
-        case Act::ReleaseLeft: QTest::mouseRelease(button, Qt::LeftButton, {}, inside); break;
-        case Act::ReleaseRight: QTest::mouseRelease(button, Qt::RightButton, {}, inside); break;
-        case Act::DragOutLeft: QTest::mouseMove(button, outside); break;
-        case Act::ReleaseOutsideLeft: QTest::mouseRelease(button, Qt::LeftButton, {}, outside); break;
-        case Act::FocusOut: other->setFocus(); break;
+        case Act::Enter:
+            QTest::mouseMove(button, inside);
+            break;
+        case Act::Leave:
+            QTest::mouseMove(&host.Top(), QPoint(390, 10));
+            break;
+        case Act::PressLeft:
+            QTest::mousePress(button, Qt::LeftButton, {}, inside);
+            break;
+        case Act::PressRight:
+            QTest::mousePress(button, Qt::RightButton, {}, inside);
+            break;
+        case Act::ReleaseLeft:
+            QTest::mouseRelease(button, Qt::LeftButton, {}, inside);
+            break;
+        case Act::ReleaseRight:
+            QTest::mouseRelease(button, Qt::RightButton, {}, inside);
+            break;
+        case Act::DragOutLeft:
+            QTest::mouseMove(button, outside);
+            break;
+        case Act::ReleaseOutsideLeft:
+            QTest::mouseRelease(button, Qt::LeftButton, {}, outside);
+            break;
+        case Act::FocusOut:
+            other->setFocus();
+            break;
         }
         EXPECT_EQ(button->State(), step.state) << "after step " << index;
         ++index;
@@ -169,20 +195,31 @@ TEST_P(ButtonStates, FollowTheMouseAndReport)
 
 INSTANTIATE_TEST_SUITE_P(
     Sequences, ButtonStates,
-    testing::Values(
-        StateCase{ "Click",
-                   { { Act::Enter, 0 }, { Act::PressLeft, 1 }, { Act::ReleaseLeft, 4 }, { Act::Leave, 2 } },
-                   { "move:7", "down:7", "up:7", "click:7", "view:7", "leave:7" } },
-        StateCase{ "RightPress",
-                   { { Act::Enter, 0 }, { Act::PressRight, 1 }, { Act::ReleaseRight, 4 }, { Act::Leave, 2 } },
-                   { "move:7", "up:7", "leave:7" } },
-        StateCase{ "DragOutAndReleaseOutside",
-                   { { Act::Enter, 0 }, { Act::PressLeft, 1 }, { Act::DragOutLeft, 1 },
-                     { Act::ReleaseOutsideLeft, 4 }, { Act::Leave, 2 } },
-                   { "move:7", "down:7", "move:7", "up:7", "leave:7" } },
-        StateCase{ "FocusOutAfterClick",
-                   { { Act::Enter, 0 }, { Act::PressLeft, 1 }, { Act::ReleaseLeft, 4 }, { Act::FocusOut, 2 } },
-                   { "move:7", "down:7", "up:7", "click:7", "view:7" } }),
+    testing::Values(StateCase{ "Click",
+                               { { Act::Enter, 0 },
+                                 { Act::PressLeft, 1 },
+                                 { Act::ReleaseLeft, 4 },
+                                 { Act::Leave, 2 } },
+                               { "move:7", "down:7", "up:7", "click:7", "view:7", "leave:7" } },
+                    StateCase{ "RightPress",
+                               { { Act::Enter, 0 },
+                                 { Act::PressRight, 1 },
+                                 { Act::ReleaseRight, 4 },
+                                 { Act::Leave, 2 } },
+                               { "move:7", "up:7", "leave:7" } },
+                    StateCase{ "DragOutAndReleaseOutside",
+                               { { Act::Enter, 0 },
+                                 { Act::PressLeft, 1 },
+                                 { Act::DragOutLeft, 1 },
+                                 { Act::ReleaseOutsideLeft, 4 },
+                                 { Act::Leave, 2 } },
+                               { "move:7", "down:7", "move:7", "up:7", "leave:7" } },
+                    StateCase{ "FocusOutAfterClick",
+                               { { Act::Enter, 0 },
+                                 { Act::PressLeft, 1 },
+                                 { Act::ReleaseLeft, 4 },
+                                 { Act::FocusOut, 2 } },
+                               { "move:7", "down:7", "up:7", "click:7", "view:7" } }),
     [](const testing::TestParamInfo<StateCase>& info) { return std::string(info.param.name); });
 
 // Four pictures of their own colour, the selected one being the hover one.

@@ -1,8 +1,6 @@
 // The input controls: edit, combo box, label and number spinner, under real
 // keys, clicks and wheel.
 
-#include "tests/sf/SfTestSupport.h"
-
 #include "sf/ISFComboBoxEvent.h"
 #include "sf/ISFEditCtrlEvent.h"
 #include "sf/ISFNumSpinerEvent.h"
@@ -13,6 +11,7 @@
 #include "sf/qt/SFQTEditCtrl.h"
 #include "sf/qt/SFQTNumSpiner.h"
 #include "sf/qt/SFQTStatic.h"
+#include "tests/sf/SfTestSupport.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -126,7 +125,6 @@ struct EditFixture : ControlFixture<CSFQTEditCtrl> {
         QTest::keyClicks(edit, text);
     }
 };
-
 
 TEST_F(EditFixture, TextChangeFiresForCodeAndUserWithTheControlAsSender)
 {
@@ -301,15 +299,14 @@ TEST_P(ComboSilent, SettersFireNothingAndTheUserStillIsHeard)
 
 INSTANTIATE_TEST_SUITE_P(
     Setters, ComboSilent,
-    testing::Values(
-        SilentCase{ "SetCurSel", [](CSFComboBox* c) { c->SetCurSel(3); }, 4, 3 },
-        SilentCase{ "DeleteCurrent", [](CSFComboBox* c) { c->DeleteString(0); }, 3, 0 },
-        SilentCase{ "ResetContent",
-                    [](CSFComboBox* c) {
-                        c->SetCurSel(3);
-                        c->ResetContent();
-                    },
-                    0, -1 }),
+    testing::Values(SilentCase{ "SetCurSel", [](CSFComboBox* c) { c->SetCurSel(3); }, 4, 3 },
+                    SilentCase{ "DeleteCurrent", [](CSFComboBox* c) { c->DeleteString(0); }, 3, 0 },
+                    SilentCase{ "ResetContent",
+                                [](CSFComboBox* c) {
+                                    c->SetCurSel(3);
+                                    c->ResetContent();
+                                },
+                                0, -1 }),
     [](const testing::TestParamInfo<SilentCase>& info) { return std::string(info.param.name); });
 
 TEST_F(ComboFixture, TheWheelChangesNothing)
@@ -385,11 +382,10 @@ TEST_P(StaticAlign, DrawTextBitsBecomeQtFlags)
     EXPECT_EQ(label.GetTextAlignFlag(), GetParam().flags) << "in " << GetParam().in;
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Bits, StaticAlign,
-    testing::Values(AlignCase{ 0x3, 0x2 },      // right wins over centre
-                    AlignCase{ 0x2015, 0x1284 },// the message dialog's 8213
-                    AlignCase{ 0x30, 0x301 })); // single line undoes the wrap
+INSTANTIATE_TEST_SUITE_P(Bits, StaticAlign,
+                         testing::Values(AlignCase{ 0x3, 0x2 },       // right wins over centre
+                                         AlignCase{ 0x2015, 0x1284 }, // the message dialog's 8213
+                                         AlignCase{ 0x30, 0x301 }));  // single line undoes the wrap
 
 TEST(StaticTwinkle, FlashesTwiceAndEndsBlack)
 {
@@ -482,13 +478,14 @@ TEST_P(SpinnerSteps, ArrowKeysStepAndWrapOnlyWhenCircular)
     EXPECT_EQ(handler.Count("num"), c.start == c.expected ? 0 : 1);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Keys, SpinnerSteps,
-    testing::Values(StepCase{ "UpWraps", true, 3650, Qt::Key_Up, 1 },
-                    StepCase{ "DownWraps", true, 1, Qt::Key_Down, 3650 },
-                    StepCase{ "UpStops", false, 3650, Qt::Key_Up, 3650 },
-                    StepCase{ "DownStops", false, 1, Qt::Key_Down, 1 },
-                    StepCase{ "Up", true, 5, Qt::Key_Up, 6 }),
-    [](const testing::TestParamInfo<StepCase>& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(Keys, SpinnerSteps,
+                         testing::Values(StepCase{ "UpWraps", true, 3650, Qt::Key_Up, 1 },
+                                         StepCase{ "DownWraps", true, 1, Qt::Key_Down, 3650 },
+                                         StepCase{ "UpStops", false, 3650, Qt::Key_Up, 3650 },
+                                         StepCase{ "DownStops", false, 1, Qt::Key_Down, 1 },
+                                         StepCase{ "Up", true, 5, Qt::Key_Up, 6 }),
+                         [](const testing::TestParamInfo<StepCase>& info) {
+                             return std::string(info.param.name);
+                         });
 
 } // namespace

@@ -210,9 +210,9 @@ TEST_F(ListCtrlTest, EventsReachTheBinderWithTheRowOfTheRegister)
     log.clear();
     WorkRow(1);
     list->UpdateBitrate(0, 1);
-    EXPECT_EQ(log, Log({ "combo0:1:1", "combo1:1:1", "combo2:1:1", "combo3:1:1",
-                         "comboedit:1:5", "edit:1:5", "spin:1:", "check:1:", "audio:1",
-                         "button:1:", "update:1:01" }));
+    EXPECT_EQ(log,
+              Log({ "combo0:1:1", "combo1:1:1", "combo2:1:1", "combo3:1:1", "comboedit:1:5",
+                    "edit:1:5", "spin:1:", "check:1:", "audio:1", "button:1:", "update:1:01" }));
     log.clear();
     list->DeleteAllItems();
     EXPECT_EQ(log, Log({ "update:-1:10" }));

@@ -13,12 +13,12 @@ namespace {
 // Search on a raw table: the end entry stops it, ranges are inclusive and
 // unsigned, and the first match in table order wins.
 const SF_MSGMAP_ENTRY kTable[] = {
-    { SF_MSG_COMMAND, 0, 10, 20, SF_SIG_VOID, 0, nullptr },                 // 0
-    { SF_MSG_COMMAND, 0, 15, 30, SF_SIG_VOID, 0, nullptr },                 // 1 overlaps 0
-    { SF_MSG_NOTIFY, 2, 10, 10, SF_SIG_NOTIFY, 0, nullptr },                // 2
+    { SF_MSG_COMMAND, 0, 10, 20, SF_SIG_VOID, 0, nullptr },                   // 0
+    { SF_MSG_COMMAND, 0, 15, 30, SF_SIG_VOID, 0, nullptr },                   // 1 overlaps 0
+    { SF_MSG_NOTIFY, 2, 10, 10, SF_SIG_NOTIFY, 0, nullptr },                  // 2
     { SF_MSG_COMMAND, 0, 0xFFFFFFF0u, 0xFFFFFFFFu, SF_SIG_VOID, 0, nullptr }, // 3
     { 0, 0, 0, 0, SF_SIG_END, 0, nullptr },
-    { SF_MSG_COMMAND, 0, 100, 100, SF_SIG_VOID, 0, nullptr },               // past the end
+    { SF_MSG_COMMAND, 0, 100, 100, SF_SIG_VOID, 0, nullptr }, // past the end
 };
 
 struct SearchCase {
@@ -28,8 +28,7 @@ struct SearchCase {
     int expected; // index into kTable, -1 for none
 };
 
-class MapSearch : public testing::TestWithParam<SearchCase> {
-};
+class MapSearch : public testing::TestWithParam<SearchCase> {};
 
 TEST_P(MapSearch, FindsFirstMatchingEntry)
 {
@@ -45,7 +44,7 @@ INSTANTIATE_TEST_SUITE_P(
     Table, MapSearch,
     testing::Values(SearchCase{ SF_MSG_COMMAND, 0, 10, 0 }, SearchCase{ SF_MSG_COMMAND, 0, 20, 0 },
                     SearchCase{ SF_MSG_COMMAND, 0, 9, -1 },
-                    SearchCase{ SF_MSG_COMMAND, 0, 17, 0 },  // overlap: table order
+                    SearchCase{ SF_MSG_COMMAND, 0, 17, 0 }, // overlap: table order
                     SearchCase{ SF_MSG_COMMAND, 0, 21, 1 }, SearchCase{ SF_MSG_COMMAND, 0, 31, -1 },
                     SearchCase{ SF_MSG_COMMAND, 1, 12, -1 }, // code must match
                     SearchCase{ SF_MSG_NOTIFY, 2, 10, 2 }, SearchCase{ SF_MSG_NOTIFY, 3, 10, -1 },
@@ -57,7 +56,8 @@ TEST(MapSearchEdges, EmptyAndNullTablesHoldNothing)
     const SF_MSGMAP_ENTRY onlyEnd[] = { { 0, 0, 0, 0, SF_SIG_END, 0, nullptr } };
     for (unsigned int message : { 0u, SF_MSG_NOTIFY, SF_MSG_COMMAND })
         EXPECT_EQ(SFFindMessageEntry(onlyEnd, message, 0, 0), nullptr);
-    EXPECT_EQ(SFFindMessageEntry(static_cast<const SF_MSGMAP_ENTRY*>(nullptr), SF_MSG_COMMAND, 0, 1),
+    EXPECT_EQ(SFFindMessageEntry(static_cast<const SF_MSGMAP_ENTRY*>(nullptr), SF_MSG_COMMAND, 0,
+                                 1),
               nullptr);
     EXPECT_EQ(SFFindMessageEntry(static_cast<const SF_MSGMAP*>(nullptr), SF_MSG_COMMAND, 0, 1),
               nullptr);
@@ -103,11 +103,11 @@ TEST(MessageMapDispatch, MemberOfAHandlerWithSeveralBasesReadsItsOwnFields)
 
     base->Dlg_OnCommand(3);
     base->Dlg_OnCommand(15);
-    base->Dlg_OnCommand(21);   // not mapped
-    base->Dlg_OnCommand(4);    // mapped with the notify signature: commands call signature 1 only
+    base->Dlg_OnCommand(21); // not mapped
+    base->Dlg_OnCommand(4);  // mapped with the notify signature: commands call signature 1 only
     tagNMHDR hdr{ nullptr, 7, 99 };
     long result = 0;
-    base->OnNotifyClick(0x10002, 7, &hdr, &result);   // only the low 16 bits of the code count
+    base->OnNotifyClick(0x10002, 7, &hdr, &result); // only the low 16 bits of the code count
     base->OnNotifyClick(9, 7, &hdr, &result);
 
     const std::vector<std::string> expected = { "multi:apply", "multi:range", "multi:row99",

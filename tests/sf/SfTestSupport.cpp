@@ -26,8 +26,7 @@ void Fill(QImage& image, int x, int y, int w, int h, const QColor& color)
 
 } // namespace
 
-CTestSkin::CTestSkin()
-    : m_oldSkinPath(g_strSkinPath)
+CTestSkin::CTestSkin() : m_oldSkinPath(g_strSkinPath)
 {
     using namespace SkinColors;
     QImage frame(148, 140, QImage::Format_ARGB32);

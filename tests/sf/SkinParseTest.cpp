@@ -20,41 +20,44 @@ template <class T, class Parse>
 void ExpectReads(Parse parse, std::initializer_list<std::pair<const wchar_t*, T>> cases)
 {
     for (const auto& [text, expected] : cases)
-        EXPECT_EQ(parse(text), expected) << '"' << QString::fromWCharArray(text).toStdString() << '"';
+        EXPECT_EQ(parse(text), expected)
+            << '"' << QString::fromWCharArray(text).toStdString() << '"';
 }
 
 TEST(SkinStrings, RectanglesAreInclusive)
 {
-    ExpectReads<QRect>(static_cast<QRect (*)(const wchar_t*)>(SFParseRect), {
-        { L"0,0,10,27", QRect(QPoint(0, 0), QPoint(9, 26)) },
-        { L"", QRect(QPoint(0, 0), QPoint(-1, -1)) },
-        { L"-30,5,20,20", QRect(QPoint(-30, 5), QPoint(-11, 24)) },
-        // Missing numbers stay 0: a rectangle with no width.
-        { L"5,6", QRect(QPoint(5, 6), QPoint(4, 5)) },
-        { L"0,0,-1,-1", QRect(QPoint(0, 0), QPoint(-2, -2)) },
-    });
+    ExpectReads<QRect>(static_cast<QRect (*)(const wchar_t*)>(SFParseRect),
+                       {
+                           { L"0,0,10,27", QRect(QPoint(0, 0), QPoint(9, 26)) },
+                           { L"", QRect(QPoint(0, 0), QPoint(-1, -1)) },
+                           { L"-30,5,20,20", QRect(QPoint(-30, 5), QPoint(-11, 24)) },
+                           // Missing numbers stay 0: a rectangle with no width.
+                           { L"5,6", QRect(QPoint(5, 6), QPoint(4, 5)) },
+                           { L"0,0,-1,-1", QRect(QPoint(0, 0), QPoint(-2, -2)) },
+                       });
 }
 
 TEST(SkinStrings, ColoursAreHexPairs)
 {
     const auto rgba = [](const wchar_t* text) { return SFParseColor(text).rgba(); };
     ExpectReads<QRgb>(rgba, {
-        { L"333333", qRgba(51, 51, 51, 255) },
-        { L"FF8000", qRgba(255, 128, 0, 255) },
-        { L"12345", qRgba(0, 0, 0, 255) },
-        // A pair that is no number reads as 0, a half number as its digit.
-        { L"zz1g10", qRgba(0, 1, 16, 255) },
-    });
+                                { L"333333", qRgba(51, 51, 51, 255) },
+                                { L"FF8000", qRgba(255, 128, 0, 255) },
+                                { L"12345", qRgba(0, 0, 0, 255) },
+                                // A pair that is no number reads as 0, a half number as its digit.
+                                { L"zz1g10", qRgba(0, 1, 16, 255) },
+                            });
 }
 
 TEST(SkinStrings, SizesNeedExactlyTwoParts)
 {
-    ExpectReads<QSize>(static_cast<QSize (*)(const wchar_t*)>(SFParseSize), {
-        { L"1100,750", QSize(1100, 750) },
-        { L"1100", QSize(0, 0) },
-        { L"1,2,3", QSize(0, 0) },
-        { L"  4,5  ", QSize(4, 5) },
-    });
+    ExpectReads<QSize>(static_cast<QSize (*)(const wchar_t*)>(SFParseSize),
+                       {
+                           { L"1100,750", QSize(1100, 750) },
+                           { L"1100", QSize(0, 0) },
+                           { L"1,2,3", QSize(0, 0) },
+                           { L"  4,5  ", QSize(4, 5) },
+                       });
 }
 
 TEST(ColorFromRef, RedInTheLowByteAndAlwaysOpaque)

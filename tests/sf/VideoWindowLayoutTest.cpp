@@ -1,8 +1,8 @@
 // The layout language of the video window: parsing, writing and resizing
 // into pixels.
 
-#include "sf/qt/QTVideoWindowLayout.h"
 #include "sf/SFVideoWindow.h"
+#include "sf/qt/QTVideoWindowLayout.h"
 
 #include <gtest/gtest.h>
 #include <set>
@@ -85,16 +85,17 @@ TEST_P(MalformedLayout, IsRefusedAndChangesNothing)
     EXPECT_EQ(Formatted(layout), kOne);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Texts, MalformedLayout,
-    testing::Values("", "1/1/1/400:300/0:0:400:300", "0/1/1/400:300//", "65/1/1/400:300//",
-                    "1/1/1/400:300/" + std::string(CQTVideoWindowLayout::kMaxTextLength, '0') + "/",
-                    "1/1/1/400:300//" + [] {
-                        std::string s = "0";
-                        for (int i = 0; i < CQTVideoWindowLayout::kMaxRectEntries; ++i)
-                            s += "-0";
-                        return s;
-                    }()));
+INSTANTIATE_TEST_SUITE_P(Texts, MalformedLayout,
+                         testing::Values(
+                             "", "1/1/1/400:300/0:0:400:300", "0/1/1/400:300//", "65/1/1/400:300//",
+                             "1/1/1/400:300/" +
+                                 std::string(CQTVideoWindowLayout::kMaxTextLength, '0') + "/",
+                             "1/1/1/400:300//" + [] {
+                                 std::string s = "0";
+                                 for (int i = 0; i < CQTVideoWindowLayout::kMaxRectEntries; ++i)
+                                     s += "-0";
+                                 return s;
+                             }()));
 
 TEST(VideoWindowLayout, LargestGridResizesQuickly)
 {

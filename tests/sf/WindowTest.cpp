@@ -2,18 +2,18 @@
 // modal runs, the order of destruction, frame composition on pixels and the
 // caption buttons.
 
-#include "tests/sf/SfTestSupport.h"
-
 #include "sf/DialogStyle.h"
-#include "sf/qt/SFFrameSkin.h"
-#include "sf/qt/SFCustomEvent.h"
 #include "sf/SFFactory.h"
-#include "sf/qt/SFKeyMap.h"
 #include "sf/SFPictureCtrl.h"
+#include "sf/SFView.h"
+#include "sf/qt/SFCustomEvent.h"
+#include "sf/qt/SFFrameSkin.h"
+#include "sf/qt/SFKeyMap.h"
 #include "sf/qt/SFQTDialog.h"
 #include "sf/qt/SFQTMainWindow.h"
 #include "sf/qt/SFQTView.h"
-#include "sf/SFView.h"
+#include "tests/sf/SfTestSupport.h"
+#include "tests/support/QtWait.h"
 
 #include <QApplication>
 #include <QImage>
@@ -21,8 +21,6 @@
 #include <QTest>
 #include <QTimer>
 #include <gtest/gtest.h>
-
-#include "tests/support/QtWait.h"
 #include <memory>
 
 namespace {
@@ -106,7 +104,8 @@ TEST(ModalRun, OkButtonGivesOne)
     QTimer::singleShot(0, [&] {
         QWidget* modal = QApplication::activeModalWidget();
         sawModal = modal == SFWidgetFromHandle(handler.GetUIWnd());
-        if (auto* button = modal ? modal->findChild<QPushButton*>(QStringLiteral("button_1")) : nullptr)
+        if (auto* button =
+                modal ? modal->findChild<QPushButton*>(QStringLiteral("button_1")) : nullptr)
             QTest::mouseClick(button, Qt::LeftButton);
     });
     EXPECT_EQ(dlg->DoModalDlg(), 1);
@@ -234,21 +233,21 @@ TEST_F(SkinnedWindow, DialogFrameTilesEdgesAndCoversTilesWithCorners)
     ASSERT_EQ(image.size(), QSize(200, 100));
     dlg->grab().save(QStringLiteral("/tmp/sf_dialog_200x100.png"));
     ExpectPixels(image, {
-        { 5, 5, TopLeft, "top-left corner" },
-        { 10, 5, Top, "first top tile" },
-        { 189, 5, Top, "last top tile" },
-        // The last 7 pixel tile starts at 185 and runs under the corner at 190.
-        { 190, 5, TopRight, "top-right corner over the tile" },
-        { 199, 26, TopRight, "top-right corner" },
-        { 0, 30, LeftTop, "left-top" },
-        { 0, 75, LeftBottom, "left-bottom at H - 20 - 10" },
-        { 5, 95, BottomLeft, "bottom-left" },
-        { 100, 95, Bottom, "bottom tile" },
-        { 195, 95, BottomRight, "bottom-right" },
-        { 199, 30, RightTop, "right-top" },
-        { 199, 75, RightBottom, "right-bottom" },
-        { 100, 50, Background, "interior shows the background colour" },
-    });
+                            { 5, 5, TopLeft, "top-left corner" },
+                            { 10, 5, Top, "first top tile" },
+                            { 189, 5, Top, "last top tile" },
+                            // The last 7 pixel tile starts at 185 and runs under the corner at 190.
+                            { 190, 5, TopRight, "top-right corner over the tile" },
+                            { 199, 26, TopRight, "top-right corner" },
+                            { 0, 30, LeftTop, "left-top" },
+                            { 0, 75, LeftBottom, "left-bottom at H - 20 - 10" },
+                            { 5, 95, BottomLeft, "bottom-left" },
+                            { 100, 95, Bottom, "bottom tile" },
+                            { 195, 95, BottomRight, "bottom-right" },
+                            { 199, 30, RightTop, "right-top" },
+                            { 199, 75, RightBottom, "right-bottom" },
+                            { 100, 50, Background, "interior shows the background colour" },
+                        });
     EXPECT_EQ(m_handler.sizeCalls, 1);
 }
 
@@ -269,8 +268,8 @@ TEST_F(SkinnedWindow, MainWindowSmallerThanItsFrameIsCutFromIt)
     // Larger than the frame image: composed like a dialog.
     window.MoveWindow(50, 50, 300, 200);
     EXPECT_EVENTUALLY_EQ(window.ComposedFrame().size(), QSize(300, 200));
-    ExpectPixels(window.ComposedFrame().toImage(), { { 150, 100, Background, "interior" },
-                                                     { 295, 195, BottomRight, "corner" } });
+    ExpectPixels(window.ComposedFrame().toImage(),
+                 { { 150, 100, Background, "interior" }, { 295, 195, BottomRight, "corner" } });
 }
 
 TEST_F(SkinnedWindow, CaptionButtonCountsNegativeXFromTheRightEdge)

@@ -1,12 +1,11 @@
 // The progress dialog, run modally as the framework runs every dialog: the
 // animation centred in its 100 by 100 window, and a timer of id 2 ending it.
 
-#include "tests/streams/PageTestSupport.h"
-
 #include "sf/DialogStyle.h"
 #include "sf/SFDialog.h"
 #include "sf/SFFactory.h"
 #include "sf/dialogs/ProgressDlgEventImp.h"
+#include "tests/streams/PageTestSupport.h"
 
 #include <QDialog>
 #include <QLabel>

@@ -3,19 +3,18 @@
 // open) and the message dialog through SFShowMessage (its layout for short and
 // long texts and each button mode, and every way of closing it).
 
-#include "tests/streams/PageTestSupport.h"
-
 #include "language/LangString.h"
-#include "shell/MainDlgEventImp.h"
-#include "tests/support/QtWait.h"
-#include "sf/qt/SFApplication.h"
 #include "sf/SFFactory.h"
+#include "sf/dialogs/SFShowMessage.h"
+#include "sf/qt/SFApplication.h"
 #include "sf/qt/SFQTMainWindow.h"
 #include "sf/qt/SFQTPictureCtrl.h"
 #include "sf/qt/SFQTStatic.h"
 #include "sf/qt/SFQTView.h"
-#include "sf/dialogs/SFShowMessage.h"
+#include "shell/MainDlgEventImp.h"
 #include "shell/ToolBarEventImp.h"
+#include "tests/streams/PageTestSupport.h"
+#include "tests/support/QtWait.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -44,8 +43,9 @@ public:
     {
         SFSetSkinPath(QStringLiteral(TALLIX_APP_DIR "/Bin/Skin/").toStdWString().c_str());
         QFile css(QStringLiteral(TALLIX_APP_DIR "/Tallix_Style.css"));
-        qApp->setStyleSheet(css.open(QIODevice::ReadOnly | QIODevice::Text) ? QString::fromUtf8(css.readAll())
-                                                                          : QString());
+        qApp->setStyleSheet(css.open(QIODevice::ReadOnly | QIODevice::Text)
+                                ? QString::fromUtf8(css.readAll())
+                                : QString());
         UseLanguage(TALLIX_APP_DIR, language);
     }
     ~CShellData()
@@ -93,8 +93,9 @@ int CountNear(const QImage& image, const QRect& rect, QRgb colour, int tolerance
     for (int y = area.top(); y <= area.bottom(); ++y) {
         for (int x = area.left(); x <= area.right(); ++x) {
             const QRgb p = image.pixel(x, y);
-            if (std::abs(qRed(p) - qRed(colour)) <= tolerance && std::abs(qGreen(p) - qGreen(colour)) <= tolerance
-                && std::abs(qBlue(p) - qBlue(colour)) <= tolerance)
+            if (std::abs(qRed(p) - qRed(colour)) <= tolerance &&
+                std::abs(qGreen(p) - qGreen(colour)) <= tolerance &&
+                std::abs(qBlue(p) - qBlue(colour)) <= tolerance)
                 ++count;
         }
     }
@@ -181,12 +182,11 @@ TEST_P(MinimiseTooltip, ComesFromTheDictionary)
               QString::fromUtf8(GetParam().tooltip));
 }
 
-INSTANTIATE_TEST_SUITE_P(Languages, MinimiseTooltip,
-                         testing::Values(TooltipCase{ "English", 0, "Min" },
-                                         TooltipCase{ "Chinese", 1, "\xE6\x9C\x80\xE5\xB0\x8F\xE5\x8C\x96" }),
-                         [](const testing::TestParamInfo<TooltipCase>& info) {
-                             return std::string(info.param.name);
-                         });
+INSTANTIATE_TEST_SUITE_P(
+    Languages, MinimiseTooltip,
+    testing::Values(TooltipCase{ "English", 0, "Min" },
+                    TooltipCase{ "Chinese", 1, "\xE6\x9C\x80\xE5\xB0\x8F\xE5\x8C\x96" }),
+    [](const testing::TestParamInfo<TooltipCase>& info) { return std::string(info.param.name); });
 
 TEST(MainWindow, WithoutAnyDataShowsTheStockLookAndTheKeys)
 {
@@ -286,7 +286,8 @@ TEST(AboutDialog, OpensFromTheToolbarAndClosesByItsButton)
     QTest::mouseClick(main.Button(CToolBarEventImp::IdAbout), Qt::LeftButton);
     EXPECT_TRUE(inspected);
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
-    EXPECT_TRUE(main.Window()->findChildren<QDialog*>().isEmpty()) << "the dialog outlived its call";
+    EXPECT_TRUE(main.Window()->findChildren<QDialog*>().isEmpty())
+        << "the dialog outlived its call";
     EXPECT_TRUE(main.Window()->isVisible());
 }
 
@@ -368,14 +369,15 @@ TEST_P(MessageLayout, FollowsTheTextAndTheMode)
     EXPECT_EQ(result, 2);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Modes, MessageLayout,
-    testing::Values(LayoutCase{ "ShortOkOnly", kShort, 0, 114, -1, false },
-                    LayoutCase{ "ShortOkCancel", kShort, 1, 68, 160, false },
-                    LayoutCase{ "ShortUnknownMode", kShort, 5, -1, -1, false },
-                    LayoutCase{ "LongOkOnly", kLong, 0, 114, -1, true },
-                    LayoutCase{ "LongOkCancel", kLong, 1, 68, 160, true }),
-    [](const testing::TestParamInfo<LayoutCase>& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(Modes, MessageLayout,
+                         testing::Values(LayoutCase{ "ShortOkOnly", kShort, 0, 114, -1, false },
+                                         LayoutCase{ "ShortOkCancel", kShort, 1, 68, 160, false },
+                                         LayoutCase{ "ShortUnknownMode", kShort, 5, -1, -1, false },
+                                         LayoutCase{ "LongOkOnly", kLong, 0, 114, -1, true },
+                                         LayoutCase{ "LongOkCancel", kLong, 1, 68, 160, true }),
+                         [](const testing::TestParamInfo<LayoutCase>& info) {
+                             return std::string(info.param.name);
+                         });
 
 struct CloseCase {
     const char* name;
@@ -402,9 +404,12 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         CloseCase{ "Escape", 0, [](QDialog* d) { PressKey(d, Qt::Key_Escape); }, 2 },
         CloseCase{ "Return", 1, [](QDialog* d) { PressKey(d, Qt::Key_Return); }, 1 },
-        CloseCase{ "OkButton", 1, [](QDialog* d) { QTest::mouseClick(ButtonOf(d, 1), Qt::LeftButton); }, 1 },
-        CloseCase{ "CancelButton", 1, [](QDialog* d) { QTest::mouseClick(ButtonOf(d, 2), Qt::LeftButton); }, 2 },
-        CloseCase{ "CloseButton", 0, [](QDialog* d) { QTest::mouseClick(ButtonOf(d, 2003), Qt::LeftButton); }, 2 },
+        CloseCase{ "OkButton", 1,
+                   [](QDialog* d) { QTest::mouseClick(ButtonOf(d, 1), Qt::LeftButton); }, 1 },
+        CloseCase{ "CancelButton", 1,
+                   [](QDialog* d) { QTest::mouseClick(ButtonOf(d, 2), Qt::LeftButton); }, 2 },
+        CloseCase{ "CloseButton", 0,
+                   [](QDialog* d) { QTest::mouseClick(ButtonOf(d, 2003), Qt::LeftButton); }, 2 },
         CloseCase{ "OtherKeysLeaveItOpen", 0,
                    [](QDialog* d) {
                        PressKey(d, Qt::Key_Space);

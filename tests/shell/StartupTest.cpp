@@ -1,16 +1,16 @@
 // Runs the real executable from a copy of its directory and reads the
 // start-up diagnostics it prints when asked to. TALLIX_EXIT_AFTER_START makes
 // it click its own close button once its event loop runs.
-#include <gtest/gtest.h>
+#include "tests/support/BadXml.h"
+#include "tests/support/TempDir.h"
+
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
+#include <gtest/gtest.h>
 #include <iterator>
 #include <string>
 #include <sys/wait.h>
-
-#include "tests/support/BadXml.h"
-#include "tests/support/TempDir.h"
 
 namespace fs = std::filesystem;
 
@@ -42,12 +42,12 @@ const char* kStartEnv =
 // A private application directory, so tests can change its files.
 class AppCopy {
 public:
-    AppCopy()
-    {
-        fs::copy(TALLIX_APP_DIR, m_dir.File("app"), fs::copy_options::recursive);
-    }
+    AppCopy() { fs::copy(TALLIX_APP_DIR, m_dir.File("app"), fs::copy_options::recursive); }
     std::string Dir() const { return m_dir.File("app"); }
-    void Write(const std::string& name, const std::string& content) const { m_dir.Write("app/" + name, content); }
+    void Write(const std::string& name, const std::string& content) const
+    {
+        m_dir.Write("app/" + name, content);
+    }
     void Remove(const std::string& name) const { fs::remove(Dir() + "/" + name); }
     RunResult Start() const
     {
@@ -95,8 +95,9 @@ TEST(StartupTest, NormalRunPrintsNothing)
     // A desktop session has a runtime directory; without one Qt itself warns.
     TempDir runtime;
     fs::permissions(runtime.Path(), fs::perms::owner_all, fs::perm_options::replace);
-    RunResult r = RunCommand("cd / && env QT_QPA_PLATFORM=offscreen TALLIX_EXIT_AFTER_START=1 XDG_RUNTIME_DIR='" + runtime.Path() +
-                             "' '" + std::string(TALLIX_EXE) + "'");
+    RunResult r = RunCommand(
+        "cd / && env QT_QPA_PLATFORM=offscreen TALLIX_EXIT_AFTER_START=1 XDG_RUNTIME_DIR='" +
+        runtime.Path() + "' '" + std::string(TALLIX_EXE) + "'");
     EXPECT_EQ(r.exitCode, 0);
     // Only Qt's offscreen platform says this; on a display (see e2e_close.sh)
     // the output is empty.
@@ -110,7 +111,7 @@ TEST(StartupTest, NormalRunPrintsNothing)
 struct StartCase {
     const char* name;
     const char* file;
-    const char* content;  // null removes the file
+    const char* content; // null removes the file
     const char* expected;
 };
 
@@ -131,12 +132,12 @@ TEST_P(StartupFilesTest, ReadsItsFilesFromTheApplicationDirectory)
 INSTANTIATE_TEST_SUITE_P(
     Cases, StartupFilesTest,
     ::testing::Values(
-        StartCase{"Config85", "config.xml",
-                  "<Setting><UIConfig><RecordblePersentage value=\"85\"/></UIConfig></Setting>",
-                  "recordable percentage 85"},
-        StartCase{"Chinese", "Language.xml", "<Language><Select value=\"1\"/></Language>",
-                  "product name Tallix \xE5\xAD\x98"},
-        StartCase{"NoStyleSheet", "Tallix_Style.css", nullptr, "style sheet none"}),
+        StartCase{ "Config85", "config.xml",
+                   "<Setting><UIConfig><RecordblePersentage value=\"85\"/></UIConfig></Setting>",
+                   "recordable percentage 85" },
+        StartCase{ "Chinese", "Language.xml", "<Language><Select value=\"1\"/></Language>",
+                   "product name Tallix \xE5\xAD\x98" },
+        StartCase{ "NoStyleSheet", "Tallix_Style.css", nullptr, "style sheet none" }),
     [](const ::testing::TestParamInfo<StartCase>& info) { return std::string(info.param.name); });
 
 class StartupBadFileTest : public ::testing::TestWithParam<BadXmlCase> {};
@@ -144,7 +145,7 @@ class StartupBadFileTest : public ::testing::TestWithParam<BadXmlCase> {};
 TEST_P(StartupBadFileTest, EveryFileFallsBack)
 {
     AppCopy app;
-    for (const char* file : {"Language.xml", "Lang_en.xml", "Lang_cn.xml", "config.xml"}) {
+    for (const char* file : { "Language.xml", "Lang_en.xml", "Lang_cn.xml", "config.xml" }) {
         if (GetParam().present)
             app.Write(file, GetParam().content);
         else
@@ -171,8 +172,8 @@ std::string ReadFile(const std::string& path)
 TEST(StartupTest, InstalledLinkFindsTheDataBesideADesktopEntryAndIcon)
 {
     TempDir prefix;
-    RunResult install = RunCommand("cmake --install '" + std::string(TALLIX_BINARY_DIR) + "' --prefix '" +
-                            prefix.Path() + "'");
+    RunResult install = RunCommand("cmake --install '" + std::string(TALLIX_BINARY_DIR) +
+                                   "' --prefix '" + prefix.Path() + "'");
     ASSERT_EQ(install.exitCode, 0) << install.output;
     std::string link = prefix.File("bin/tallix");
     ASSERT_TRUE(fs::is_symlink(link));
@@ -195,7 +196,8 @@ TEST(StartupTest, InstalledLinkFindsTheDataBesideADesktopEntryAndIcon)
 
 TEST(StartupTest, RunCommandWithoutDisplayExplainsXvfb)
 {
-    RunResult r = RunCommand("env -u DISPLAY -u WAYLAND_DISPLAY '" + std::string(TALLIX_SOURCE_DIR) + "/tools/run.sh'");
+    RunResult r = RunCommand("env -u DISPLAY -u WAYLAND_DISPLAY '" +
+                             std::string(TALLIX_SOURCE_DIR) + "/tools/run.sh'");
     EXPECT_NE(r.exitCode, 0);
     EXPECT_TRUE(Has(r, "display")) << r.output;
     EXPECT_TRUE(Has(r, "xvfb-run")) << r.output;

@@ -3,8 +3,8 @@
 //
 //   tallix_xgrab <window id> <file.png | -> [x,y ...]
 
-#include <QGuiApplication>
 #include <QColor>
+#include <QGuiApplication>
 #include <QImage>
 #include <QPixmap>
 #include <QScreen>

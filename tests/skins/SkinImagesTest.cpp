@@ -1,15 +1,13 @@
 // Checks the skin images in the application directory against what the
 // program does with them: which names it loads and which surfaces must be
 // whole.
-#include <gtest/gtest.h>
-
 #include <QColor>
 #include <QImage>
 #include <QImageReader>
 #include <QString>
-
 #include <filesystem>
 #include <fstream>
+#include <gtest/gtest.h>
 #include <regex>
 #include <set>
 #include <sstream>
@@ -41,7 +39,8 @@ bool FullyOpaque(const QImage& image)
 // either would show whatever lies behind the window.
 TEST(SkinOpacity, WindowAndDialogGroundsHaveNoHoles)
 {
-    for (const char* name : {"FrameMain.png", "bg_toolbar.png", "background.png", "bgColorMain.png"}) {
+    for (const char* name :
+         { "FrameMain.png", "bg_toolbar.png", "background.png", "bgColorMain.png" }) {
         const QImage image = Load(name);
         ASSERT_FALSE(image.isNull()) << name;
         EXPECT_TRUE(FullyOpaque(image)) << name;
@@ -55,7 +54,7 @@ TEST(RecordPlanCombo, OpenCutsShowAnEvenField)
 {
     const QImage image = Load("ComboBox _150.png").convertToFormat(QImage::Format_ARGB32);
     ASSERT_FALSE(image.isNull());
-    for (int top : {28, 48}) {
+    for (int top : { 28, 48 }) {
         const QRgb ground = image.pixel(100, top + 20);
         int uneven = 0;
         // Columns left of the arrow zone, clear of the rounded corners.
@@ -73,7 +72,8 @@ TEST(SkinNames, EveryNameInTheSourcesIsAValidPng)
 {
     const std::regex literal(R"re("([^"\n%*]*\.png)")re");
     std::set<std::string> named;
-    for (const char* dir : {"shell", "streams", "calculator", "preview", "sf", "Config", "language"}) {
+    for (const char* dir :
+         { "shell", "streams", "calculator", "preview", "sf", "Config", "language" }) {
         const fs::path root = fs::path(TALLIX_SOURCE_DIR) / dir;
         if (!fs::exists(root))
             continue;
@@ -85,7 +85,8 @@ TEST(SkinNames, EveryNameInTheSourcesIsAValidPng)
             std::stringstream text;
             text << in.rdbuf();
             const std::string content = text.str();
-            for (std::sregex_iterator it(content.begin(), content.end(), literal), end; it != end; ++it) {
+            for (std::sregex_iterator it(content.begin(), content.end(), literal), end; it != end;
+                 ++it) {
                 std::string name = (*it)[1].str();
                 const std::size_t slash = name.find_last_of('/');
                 if (slash != std::string::npos)
@@ -98,7 +99,8 @@ TEST(SkinNames, EveryNameInTheSourcesIsAValidPng)
     EXPECT_GT(named.size(), 40u);
     for (const std::string& name : named) {
         QImageReader reader(QString::fromStdString(kSkinDir + name));
-        EXPECT_EQ(reader.format(), QByteArray("png")) << name << " is named in the sources but not drawn";
+        EXPECT_EQ(reader.format(), QByteArray("png"))
+            << name << " is named in the sources but not drawn";
         EXPECT_FALSE(reader.read().isNull()) << name;
     }
 }

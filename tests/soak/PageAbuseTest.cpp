@@ -40,20 +40,26 @@ struct PageAbuse : testing::Test {
 // What the user does to a field once it has the focus.
 struct Abuse {
     const char* name;
-    QString paste;             // through the clipboard, when given
-    QString typed;             // key by key
-    std::vector<int> keys;     // then these keys
+    QString paste;         // through the clipboard, when given
+    QString typed;         // key by key
+    std::vector<int> keys; // then these keys
 };
 
 const QString kLongDigits = QString(20000, QLatin1Char('7'));
 // Digits, a snowman, an umlaut, NUL, control characters and line breaks.
-const QString kLongMixed = QString::fromUtf8("12\xe2\x98\x83\xc3\xbc\0\x01\x1b\t\n", 12).repeated(2000);
+const QString kLongMixed =
+    QString::fromUtf8("12\xe2\x98\x83\xc3\xbc\0\x01\x1b\t\n", 12).repeated(2000);
 
 const Abuse kAbuses[] = {
     { "LongDigitPaste", kLongDigits, {}, {} },
     { "LongMixedPaste", kLongMixed, {}, { Qt::Key_Return } },
-    { "NonAscii", {}, QString::fromUtf8("\xe5\xba\x94\xe7\x94\xa8 \xc3\xbc\xc3\xaf \xe2\x98\x83"), {} },
-    { "ControlKeys", {}, QStringLiteral("25"),
+    { "NonAscii",
+      {},
+      QString::fromUtf8("\xe5\xba\x94\xe7\x94\xa8 \xc3\xbc\xc3\xaf \xe2\x98\x83"),
+      {} },
+    { "ControlKeys",
+      {},
+      QStringLiteral("25"),
       { Qt::Key_Home, Qt::Key_Delete, Qt::Key_End, Qt::Key_Backspace, Qt::Key_Backspace,
         Qt::Key_Backspace, Qt::Key_Escape, Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_Return,
         Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Insert, Qt::Key_F1 } },
@@ -121,11 +127,12 @@ TEST_P(FieldAbuse, FieldKeepsAShortNumberAndTheRowLives)
     EXPECT_TRUE(ok || d.Text(0, ColBitrate).isEmpty()) << d.Text(0, ColBitrate).toStdString();
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Page, FieldAbuse, testing::Combine(testing::ValuesIn(kFields), testing::ValuesIn(kAbuses)),
-    [](const testing::TestParamInfo<FieldAbuse::ParamType>& info) {
-        return std::string(std::get<0>(info.param).name) + std::get<1>(info.param).name;
-    });
+INSTANTIATE_TEST_SUITE_P(Page, FieldAbuse,
+                         testing::Combine(testing::ValuesIn(kFields), testing::ValuesIn(kAbuses)),
+                         [](const testing::TestParamInfo<FieldAbuse::ParamType>& info) {
+                             return std::string(std::get<0>(info.param).name) +
+                                    std::get<1>(info.param).name;
+                         });
 
 TEST_F(PageAbuse, SpinnerWrapsPastBothEndsByArrowsAndPages)
 {
@@ -141,8 +148,8 @@ TEST_F(PageAbuse, SpinnerWrapsPastBothEndsByArrowsAndPages)
     // From 1: down wraps to the top, up from the top wraps to 1; a page of
     // ten past an end lands on the other end.
     const Step steps[] = {
-        { Qt::Key_Down, 1, 9999 }, { Qt::Key_Up, 1, 1 },    { Qt::Key_Up, 3, 4 },
-        { Qt::Key_Down, 5, 9998 }, { Qt::Key_Up, 2, 1 },    { Qt::Key_PageDown, 1, 9999 },
+        { Qt::Key_Down, 1, 9999 }, { Qt::Key_Up, 1, 1 },       { Qt::Key_Up, 3, 4 },
+        { Qt::Key_Down, 5, 9998 }, { Qt::Key_Up, 2, 1 },       { Qt::Key_PageDown, 1, 9999 },
         { Qt::Key_PageUp, 1, 1 },  { Qt::Key_Down, 40, 9960 },
     };
     for (const Step& s : steps) {
@@ -180,10 +187,13 @@ TEST_F(PageAbuse, PreviewClosedByItsButtonWhileTheClipPlaysAgainAndAgain)
         CModalWatch watch([&](QDialog* dialog) {
             // Closed at once on odd rounds, after frames on even ones.
             if (i % 2 == 0) {
-                const bool playing = QTest::qWaitFor([&] {
-                    QWidget* surface = dialog->findChild<QWidget*>(QStringLiteral("vexplaySurface"));
-                    return surface && surface->isVisible();
-                }, 3000);
+                const bool playing = QTest::qWaitFor(
+                    [&] {
+                        QWidget* surface =
+                            dialog->findChild<QWidget*>(QStringLiteral("vexplaySurface"));
+                        return surface && surface->isVisible();
+                    },
+                    3000);
                 played += playing ? 1 : 0;
                 QTest::qWait(150);
             }

@@ -30,8 +30,7 @@ struct PageSoak : testing::Test {
     {
         for (int row = 0; row < d.Rows(); ++row) {
             if (row % 25 == 0)
-                d.FillRow(row, row % 50 == 0 ? Smart265 : H264, row % 50 == 0 ? 1 : 0, MP4,
-                          Fps25);
+                d.FillRow(row, row % 50 == 0 ? Smart265 : H264, row % 50 == 0 ? 1 : 0, MP4, Fps25);
             if (row % 4 == 1)
                 d.TypeBitrate(row, QString::number(1000 + row));
             if (row % 8 == 2)

@@ -103,18 +103,12 @@ TEST(ChannelRowRules, TypedTextsAreRepaired)
 TEST(ChannelRowRules, FrameRateValue)
 {
     const std::pair<std::pair<int, std::wstring>, int> cases[] = {
-        { { 0, L"25" }, 0 },
-        { { 1, L"25" }, 1 },
-        { { 7, L"" }, 30 },
-        { { 9, L"" }, 60 },
-        { { 10, L"25" }, 25 },
-        { { 10, L"" }, 0 },
-        { { 10, L"0" }, 0 },
-        { { 10, L"12x" }, 12 },
-        { { 10, L"1\xFF12" }, 1 },
-        { { 10, L"1234567890" }, 123456789 },
-        { { 11, L"25" }, 0 },
-        { { -1, L"25" }, 0 },
+        { { 0, L"25" }, 0 },       { { 1, L"25" }, 1 },
+        { { 7, L"" }, 30 },        { { 9, L"" }, 60 },
+        { { 10, L"25" }, 25 },     { { 10, L"" }, 0 },
+        { { 10, L"0" }, 0 },       { { 10, L"12x" }, 12 },
+        { { 10, L"1\xFF12" }, 1 }, { { 10, L"1234567890" }, 123456789 },
+        { { 11, L"25" }, 0 },      { { -1, L"25" }, 0 },
     };
     for (const auto& [input, value] : cases)
         EXPECT_EQ(RowFrameRateValue(input.first, input.second), value) << input.first;
@@ -131,9 +125,9 @@ TEST(ChannelRowRules, ReadyWhenCompleteOrShowingANumber)
         bool ready;
     };
     const Case cases[] = {
-        { 1, 3, 4, &zero, true },     { 0, 3, 4, &zero, false },  { 1, 0, 4, &zero, false },
-        { 1, 3, 0, &zero, false },    { 0, 0, 0, &shown, true },  { 0, 0, 0, &empty, true },
-        { 0, 0, 0, nullptr, false },  { 2, 5, 10, nullptr, true },
+        { 1, 3, 4, &zero, true },    { 0, 3, 4, &zero, false },   { 1, 0, 4, &zero, false },
+        { 1, 3, 0, &zero, false },   { 0, 0, 0, &shown, true },   { 0, 0, 0, &empty, true },
+        { 0, 0, 0, nullptr, false }, { 2, 5, 10, nullptr, true },
     };
     for (const Case& c : cases)
         EXPECT_EQ(RowIsReady(c.compression, c.resolution, c.frameRate, c.text), c.ready)
@@ -143,9 +137,14 @@ TEST(ChannelRowRules, ReadyWhenCompleteOrShowingANumber)
 TEST(ChannelRowRules, BitrateTextKeepsThePrintedInteger)
 {
     const std::pair<double, std::wstring> cases[] = {
-        { 0.0, L"0" },           { 316.0, L"316" },     { 316.4, L"316" },
-        { 317.5, L"318" },       { 316.5, L"316" },     { 4096 * 7 / 30.0, L"956" },
-        { 122867712.0, L"122867712" }, { 4096.0 * 999 / 30, L"136397" },
+        { 0.0, L"0" },
+        { 316.0, L"316" },
+        { 316.4, L"316" },
+        { 317.5, L"318" },
+        { 316.5, L"316" },
+        { 4096 * 7 / 30.0, L"956" },
+        { 122867712.0, L"122867712" },
+        { 4096.0 * 999 / 30, L"136397" },
     };
     for (const auto& [kbps, text] : cases)
         EXPECT_EQ(RowBitrateText(kbps), text) << kbps;
@@ -168,8 +167,7 @@ TEST(ChannelRowRules, TotalsComeFromTheTexts)
         { "largest row", { { L"12288", 9999 } }, 9999, 122867712.0 },
         { "zeros padded", { { L"00", 3 } }, 3, 0.0 },
         { "stops at a wide digit", { { L"12\xFF15", 2 } }, 2, 24.0 },
-        { "32-bit wrap", { { L"1", INT_MAX }, { L"1", INT_MAX } }, 4294967294u,
-          2.0 * INT_MAX },
+        { "32-bit wrap", { { L"1", INT_MAX }, { L"1", INT_MAX } }, 4294967294u, 2.0 * INT_MAX },
     };
     for (const TotalsCase& c : cases) {
         SCOPED_TRACE(c.name);

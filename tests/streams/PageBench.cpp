@@ -6,18 +6,18 @@
 // Times are wall clock and, in brackets, the thread's processor time, which
 // other load on the machine disturbs less. TALLIX_BENCH_NO_CSS=1 runs without
 // the application style sheet, TALLIX_BENCH_CSS=<file> with another one.
+#include "Config/VexUISetting.h"
 #include "calculator/CalculatorBottom.h"
-#include "sf/DialogStyle.h"
 #include "language/LangString.h"
-#include "shell/MainDlgEventImp.h"
-#include "shell/MainWindowBringUp.h"
-#include "sf/qt/SFApplication.h"
+#include "sf/DialogStyle.h"
 #include "sf/SFDialog.h"
 #include "sf/SFFactory.h"
-#include "sf/qt/SFQTListCtrl.h"
 #include "sf/SFStatic.h"
+#include "sf/qt/SFApplication.h"
+#include "sf/qt/SFQTListCtrl.h"
+#include "shell/MainDlgEventImp.h"
+#include "shell/MainWindowBringUp.h"
 #include "streams/TallixEventImp.h"
-#include "Config/VexUISetting.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -76,8 +76,8 @@ double CpuMs()
 }
 
 struct Sample {
-    double handler;  // the reaction itself
-    double painted;  // with the layout and paint that follow it
+    double handler; // the reaction itself
+    double painted; // with the layout and paint that follow it
     double handlerCpu;
     double paintedCpu;
 };
@@ -114,7 +114,10 @@ public:
     }
 
     // The click of "Add Streaming" reaches the page as its command.
-    Sample AddRow() { return Time([this] { ClickAdd(); }); }
+    Sample AddRow()
+    {
+        return Time([this] { ClickAdd(); });
+    }
     void ClickAdd() { ClickLabel("label_add"); }
     void ClickClearAll() { ClickLabel("label_clear"); }
     void ClickLabel(const char* name)
@@ -194,10 +197,10 @@ int main(int argc, char** argv)
     }
     Settle();
     const Memory before = ReadMemory();
-    const qsizetype widgetsBefore = bench.m_window->findChildren<QWidget*>().size() +
-                                    QApplication::topLevelWidgets().size();
-    const qsizetype objectsBefore = bench.m_window->findChildren<QObject*>().size() +
-                                    QApplication::topLevelWidgets().size();
+    const qsizetype widgetsBefore =
+        bench.m_window->findChildren<QWidget*>().size() + QApplication::topLevelWidgets().size();
+    const qsizetype objectsBefore =
+        bench.m_window->findChildren<QObject*>().size() + QApplication::topLevelWidgets().size();
 
     std::vector<int> checkpoints = { 10, 100, rows };
     std::vector<Sample> adds;
@@ -237,9 +240,11 @@ int main(int argc, char** argv)
                 static_cast<double>(after.heapKb - before.heapKb) / rows);
     std::printf("widgets per row: %.1f, objects per row: %.1f\n",
                 static_cast<double>(bench.m_window->findChildren<QWidget*>().size() +
-                                    QApplication::topLevelWidgets().size() - widgetsBefore) / rows,
+                                    QApplication::topLevelWidgets().size() - widgetsBefore) /
+                    rows,
                 static_cast<double>(bench.m_window->findChildren<QObject*>().size() +
-                                    QApplication::topLevelWidgets().size() - objectsBefore) / rows);
+                                    QApplication::topLevelWidgets().size() - objectsBefore) /
+                    rows);
     std::printf("totals: %d channels, %.0f kbps\n", bench.m_page->GetCalculator()->GetChannels(),
                 bench.m_page->GetCalculator()->GetTotalBitrate());
 

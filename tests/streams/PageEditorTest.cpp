@@ -1,7 +1,5 @@
 // The stream editor on the real page: its own rate rule as the user's combo
 // choices reach it, its one message, and the sub stream toggle.
-#include "tests/streams/PageTestSupport.h"
-
 #include "sf/SFControlTypes.h"
 #include "sf/SFFactory.h"
 #include "sf/SFView.h"
@@ -9,6 +7,7 @@
 #include "sf/qt/SFQtConvert.h"
 #include "streams/TallixEventImp.h"
 #include "streams/ViewChannelInfoEditor.h"
+#include "tests/streams/PageTestSupport.h"
 
 #include <QAbstractButton>
 #include <QComboBox>
@@ -38,8 +37,8 @@ struct EditorOnPage : testing::Test {
         editor = new Editor(main.Page(), false);
         view = SFCreateView(editor);
         ASSERT_NE(view, nullptr);
-        view->Create(L"", L"", SF_WS_VISIBLE, tagRECT{ 0, 0, 1100, 250 },
-                     main.Page()->GetUIWnd(), 0);
+        view->Create(L"", L"", SF_WS_VISIBLE, tagRECT{ 0, 0, 1100, 250 }, main.Page()->GetUIWnd(),
+                     0);
     }
     void TearDown() override
     {
@@ -77,7 +76,7 @@ struct RateCase {
     const char* what;
     int compression;
     int resolution;
-    int frameRate;  // -1: left as the resolution sets it
+    int frameRate; // -1: left as the resolution sets it
     int audio;
     const char* shown;
     int frameRateAfter;

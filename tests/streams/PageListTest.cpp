@@ -2,8 +2,8 @@
 // control acting on its own row, the registers through deletion and
 // insertion, sorting, and the clicks that select a row.
 #include "calculator/CalculatorBottom.h"
-#include "tests/streams/PageTestSupport.h"
 #include "streams/TallixEventImp.h"
+#include "tests/streams/PageTestSupport.h"
 
 #include <QCoreApplication>
 #include <QHeaderView>
@@ -11,10 +11,10 @@
 #include <QTest>
 #include <algorithm>
 #include <functional>
+#include <gtest/gtest.h>
 #include <map>
 #include <string>
 #include <vector>
-#include <gtest/gtest.h>
 
 using namespace Entry;
 
@@ -59,8 +59,13 @@ TEST_F(PageList, GetItemTextReadsTheCellControls)
     const struct {
         int col;
         const char* text;
-    } cases[] = { { 0, "2" }, { 1, "1" }, { 2, "--Compression--" }, { 3, "--Environment--" },
-                  { 5, "--FrameRate--" }, { 6, "0" }, { 7, "0" } };
+    } cases[] = { { 0, "2" },
+                  { 1, "1" },
+                  { 2, "--Compression--" },
+                  { 3, "--Environment--" },
+                  { 5, "--FrameRate--" },
+                  { 6, "0" },
+                  { 7, "0" } };
     for (const auto& c : cases)
         EXPECT_EQ(d.Text(1, c.col), QString::fromLatin1(c.text)) << c.col;
     wchar_t small[4] = { L'x', L'x', L'x', L'x' };
@@ -88,7 +93,8 @@ TEST_P(PageListOwnRow, ControlActsOnItsRow)
     d.AddRows(4);
     c.act(d);
     for (int row = 0; row < 4; ++row)
-        EXPECT_EQ(d.Text(row, c.col), QString::fromLatin1(row == 2 ? c.changed : c.untouched)) << row;
+        EXPECT_EQ(d.Text(row, c.col), QString::fromLatin1(row == 2 ? c.changed : c.untouched))
+            << row;
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -96,9 +102,10 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         OwnRowCase{ "Compression", [](CPageDriver& d) { d.Choose(2, ColCompression, H265); },
                     ColCompression, "--Compression--", "H.265" },
-        OwnRowCase{ "Channels", [](CPageDriver& d) { d.StepChannels(2, 2); }, ColChannels, "1", "3" },
-        OwnRowCase{ "Bitrate", [](CPageDriver& d) { d.TypeBitrate(2, QStringLiteral("7")); }, ColBitrate,
-                    "0", "7" },
+        OwnRowCase{ "Channels", [](CPageDriver& d) { d.StepChannels(2, 2); }, ColChannels, "1",
+                    "3" },
+        OwnRowCase{ "Bitrate", [](CPageDriver& d) { d.TypeBitrate(2, QStringLiteral("7")); },
+                    ColBitrate, "0", "7" },
         OwnRowCase{ "Audio", [](CPageDriver& d) { d.ToggleAudio(2); }, ColAudio, "0", "1" }),
     [](const testing::TestParamInfo<OwnRowCase>& info) { return std::string(info.param.name); });
 
@@ -120,7 +127,8 @@ TEST_F(PageList, DeletingAMiddleRowKeepsEveryRegisterDense)
         // The former row 3 is row 2 now, with its own controls.
         EXPECT_EQ(list->RegisterControl(r, 2), below[reg]) << reg;
     }
-    EXPECT_EQ(list->indexWidget(list->model()->index(2, 2))->objectName(), QStringLiteral("cell_2_2"));
+    EXPECT_EQ(list->indexWidget(list->model()->index(2, 2))->objectName(),
+              QStringLiteral("cell_2_2"));
     FlushDeletes();
     EXPECT_TRUE(gone.isNull());
     EXPECT_TRUE(goneDelete.isNull());
@@ -161,7 +169,8 @@ TEST_F(PageList, SortingMovesEachRowWithItsControls)
     for (int row = 0; row < 4; ++row) {
         list->SetItemText(row, 0, numbers[row]);
         for (int reg = 0; reg < R::RegisterCount; ++reg)
-            controlsOf[numbers[row]].push_back(list->RegisterControl(static_cast<R::Register>(reg), row));
+            controlsOf[numbers[row]].push_back(
+                list->RegisterControl(static_cast<R::Register>(reg), row));
     }
     list->SetHeaderSortEnable(1);
     QHeaderView* header = list->horizontalHeader();

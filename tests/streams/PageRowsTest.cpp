@@ -1,20 +1,20 @@
 // What the controls of a row do to each other, driven by a user's hand on the
 // real main window.
 #include "calculator/CalculatorBottom.h"
-#include "tests/streams/PageTestSupport.h"
 #include "sf/SFComboBox.h"
 #include "sf/SFEditCtrl.h"
 #include "sf/SFListCtrlIds.h"
 #include "sf/SFNumSpiner.h"
+#include "tests/streams/PageTestSupport.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QString>
 #include <QStringList>
 #include <functional>
+#include <gtest/gtest.h>
 #include <utility>
 #include <vector>
-#include <gtest/gtest.h>
-#include <QDialog>
 
 using namespace Entry;
 
@@ -63,9 +63,11 @@ auto CustomRow(int resolution, const char* rate)
 }
 
 const RowCase kRowCases[] = {
-    { "ResolutionSetsThirtyAndTheEstimateFollows", Row(H264, D1),
+    { "ResolutionSetsThirtyAndTheEstimateFollows",
+      Row(H264, D1),
       { false, 0, false, false, D1, Fps30, "1024" } },
-    { "SmartCodecWithoutSceneEstimatesAsSceneThree", Row(Smart264, MP2),
+    { "SmartCodecWithoutSceneEstimatesAsSceneThree",
+      Row(Smart264, MP2),
       { true, 0, false, false, MP2, Fps30, "4096" } },
     { "SmartCodecWithSceneShowsPreview",
       [](CPageDriver& d) {
@@ -83,8 +85,7 @@ const RowCase kRowCases[] = {
           Row(H264, D1)(d);
       },
       { false, 0, false, false, D1, Fps30, "1024" } },
-    { "FrameRateTitleDropsTheResolution", Row(H264, D1, 0),
-      { false, 0, false, false, 0, 0, "0" } },
+    { "FrameRateTitleDropsTheResolution", Row(H264, D1, 0), { false, 0, false, false, 0, 0, "0" } },
     { "CompressionTitleZeroesAShownNumber",
       [](CPageDriver& d) {
           Row(H264, D1)(d);
@@ -97,7 +98,8 @@ const RowCase kRowCases[] = {
           d.ToggleAudio(0);
       },
       { false, 0, false, false, D1, Fps15, "316" } },
-    { "CustomRateShowsItsEditAndCounts", CustomRow(D1, "15"),
+    { "CustomRateShowsItsEditAndCounts",
+      CustomRow(D1, "15"),
       { false, 0, false, true, D1, Custom, "512", "15" } },
     { "ResolutionHidesTheCustomRate",
       [](CPageDriver& d) {
@@ -105,15 +107,20 @@ const RowCase kRowCases[] = {
           d.Choose(0, ColResolution, MP1);
       },
       { false, 0, false, false, MP1, Fps30, "2048" } },
-    { "TwelveMegapixelsFallBackFromSixty", Row(H264, MP12, Fps60),
+    { "TwelveMegapixelsFallBackFromSixty",
+      Row(H264, MP12, Fps60),
       { false, 0, false, false, MP12, Fps30, "12288" } },
-    { "TwelveMegapixelsCustomStartsAtZero", Row(H264, MP12, Custom),
+    { "TwelveMegapixelsCustomStartsAtZero",
+      Row(H264, MP12, Custom),
       { false, 0, false, true, MP12, Custom, "0", "0" } },
-    { "TwelveMegapixelsCapTypedRateAtThirty", CustomRow(MP12, "31"),
+    { "TwelveMegapixelsCapTypedRateAtThirty",
+      CustomRow(MP12, "31"),
       { false, 0, false, true, MP12, Custom, "12288", "30" } },
-    { "EightMegapixelsKeepThirtyOne", CustomRow(MP8, "31"),
+    { "EightMegapixelsKeepThirtyOne",
+      CustomRow(MP8, "31"),
       { false, 0, false, true, MP8, Custom, "8465", "31" } },
-    { "CustomRateKeepsThreeCharacters", CustomRow(D1, "1234"),
+    { "CustomRateKeepsThreeCharacters",
+      CustomRow(D1, "1234"),
       { false, 0, false, true, D1, Custom, "4198", "123" } },
 };
 
@@ -138,8 +145,10 @@ std::vector<std::function<void()>> RowHandlers(CPageDriver& d)
     R* list = d.List();
     std::vector<std::function<void()>> handlers;
     const std::pair<R::Register, unsigned int> combos[] = {
-        { R::CompressionCombos, SF_LIST_ID_FIRST_COMBO }, { R::EnvironmentCombos, SF_LIST_ID_BUTTON_COMBO },
-        { R::ResolutionCombos, SF_LIST_ID_SECOND_COMBO }, { R::FrameRateCombos, SF_LIST_ID_EDIT_COMBO }
+        { R::CompressionCombos, SF_LIST_ID_FIRST_COMBO },
+        { R::EnvironmentCombos, SF_LIST_ID_BUTTON_COMBO },
+        { R::ResolutionCombos, SF_LIST_ID_SECOND_COMBO },
+        { R::FrameRateCombos, SF_LIST_ID_EDIT_COMBO }
     };
     for (const auto& [reg, id] : combos) {
         auto* combo = static_cast<CSFComboBox*>(list->RegisterControl(reg, 0));
@@ -147,8 +156,9 @@ std::vector<std::function<void()>> RowHandlers(CPageDriver& d)
             list->SelectChanged(static_cast<int>(id), combo->GetCurSel(), combo);
         });
     }
-    const std::pair<R::Register, unsigned int> edits[] = { { R::CustomRateEdits, 0u },
-                                                           { R::BitrateEdits, SF_LIST_ID_FIRST_COMBO } };
+    const std::pair<R::Register, unsigned int> edits[] = {
+        { R::CustomRateEdits, 0u }, { R::BitrateEdits, SF_LIST_ID_FIRST_COMBO }
+    };
     for (const auto& [reg, id] : edits) {
         auto* edit = static_cast<CSFEditCtrl*>(list->RegisterControl(reg, 0));
         handlers.push_back([list, edit, id = id] {
@@ -158,9 +168,8 @@ std::vector<std::function<void()>> RowHandlers(CPageDriver& d)
         });
     }
     auto* spinner = static_cast<CSFNumSpiner*>(list->RegisterControl(R::ChannelSpiners, 0));
-    handlers.push_back([list, spinner] {
-        list->OnCurrentNumChanged(0, spinner->GetCurrentNum(), spinner, 0);
-    });
+    handlers.push_back(
+        [list, spinner] { list->OnCurrentNumChanged(0, spinner->GetCurrentNum(), spinner, 0); });
     return handlers;
 }
 

@@ -1,18 +1,18 @@
 #include "tests/streams/PageTestSupport.h"
 
+#include "Config/VexUISetting.h"
 #include "calculator/CalculatorBottom.h"
-#include "sf/DialogStyle.h"
 #include "language/LangString.h"
-#include "shell/MainDlgEventImp.h"
-#include "shell/MainWindowBringUp.h"
-#include "sf/qt/SFApplication.h"
+#include "sf/DialogStyle.h"
 #include "sf/SFDialog.h"
 #include "sf/SFFactory.h"
-#include "sf/qt/SFQtConvert.h"
 #include "sf/SFRadioBox.h"
 #include "sf/SFStatic.h"
+#include "sf/qt/SFApplication.h"
+#include "sf/qt/SFQtConvert.h"
+#include "shell/MainDlgEventImp.h"
+#include "shell/MainWindowBringUp.h"
 #include "streams/TallixEventImp.h"
-#include "Config/VexUISetting.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -38,7 +38,10 @@ QString LabelText(CSFStatic* label)
     return QString::fromWCharArray(buffer);
 }
 
-bool Shown(const QWidget* w) { return w && !w->isHidden(); }
+bool Shown(const QWidget* w)
+{
+    return w && !w->isHidden();
+}
 
 } // namespace
 
@@ -100,9 +103,14 @@ CModalWatch::CModalWatch(std::function<void(QDialog*)> inspect) : m_poll(new QTi
     m_poll->start();
 }
 
-CModalWatch::~CModalWatch() { delete m_poll; }
+CModalWatch::~CModalWatch()
+{
+    delete m_poll;
+}
 
-CPageDriver::CPageDriver(CTallixEventImp* page) : m_page(page) {}
+CPageDriver::CPageDriver(CTallixEventImp* page) : m_page(page)
+{
+}
 QWidget* CPageDriver::Child(const char* name) const
 {
     QWidget* page = SFWidgetFromHandle(m_page->GetUIWnd());
@@ -112,9 +120,18 @@ CSFQTListCtrl* CPageDriver::List() const
 {
     return dynamic_cast<CSFQTListCtrl*>(Child("listctrl_2014"));
 }
-CCalculatorBottom* CPageDriver::Calculator() const { return m_page->GetCalculator(); }
-void CPageDriver::ClickAdd() { UserClick(Child("label_add")); }
-void CPageDriver::ClickClearAll() { UserClick(Child("label_clear")); }
+CCalculatorBottom* CPageDriver::Calculator() const
+{
+    return m_page->GetCalculator();
+}
+void CPageDriver::ClickAdd()
+{
+    UserClick(Child("label_add"));
+}
+void CPageDriver::ClickClearAll()
+{
+    UserClick(Child("label_clear"));
+}
 
 void CPageDriver::AddRows(int count)
 {
@@ -137,11 +154,16 @@ QWidget* CPageDriver::Reveal(CSFQTListCtrl::Register reg, int row, RowColumn col
 QWidget* CPageDriver::Combo(int row, RowColumn col) const
 {
     switch (col) {
-    case ColCompression: return Cell(CSFQTListCtrl::CompressionCombos, row);
-    case ColEnvironment: return Cell(CSFQTListCtrl::EnvironmentCombos, row);
-    case ColResolution: return Cell(CSFQTListCtrl::ResolutionCombos, row);
-    case ColFrameRate: return Cell(CSFQTListCtrl::FrameRateCombos, row);
-    default: return nullptr;
+    case ColCompression:
+        return Cell(CSFQTListCtrl::CompressionCombos, row);
+    case ColEnvironment:
+        return Cell(CSFQTListCtrl::EnvironmentCombos, row);
+    case ColResolution:
+        return Cell(CSFQTListCtrl::ResolutionCombos, row);
+    case ColFrameRate:
+        return Cell(CSFQTListCtrl::FrameRateCombos, row);
+    default:
+        return nullptr;
     }
 }
 
@@ -265,17 +287,26 @@ QString CPageDriver::CustomRateText(int row) const
     return edit ? edit->text() : QStringLiteral("<none>");
 }
 
-int CPageDriver::Rows() const { return List()->GetItemCount(); }
+int CPageDriver::Rows() const
+{
+    return List()->GetItemCount();
+}
 QString CPageDriver::ChannelsLabel() const
 {
     return LabelText(dynamic_cast<CSFStatic*>(Child(CCalculatorBottom::kNameChannelCount)));
 }
-QString CPageDriver::BitrateLabel() const { return LabelText(dynamic_cast<CSFStatic*>(Child(CCalculatorBottom::kNameBitrate))); }
+QString CPageDriver::BitrateLabel() const
+{
+    return LabelText(dynamic_cast<CSFStatic*>(Child(CCalculatorBottom::kNameBitrate)));
+}
 QString CPageDriver::ResultCaption() const
 {
     return LabelText(dynamic_cast<CSFStatic*>(Child(CCalculatorBottom::kNameResultCaption)));
 }
-QString CPageDriver::ResultValue() const { return LabelText(dynamic_cast<CSFStatic*>(Child(CCalculatorBottom::kNameResultValue))); }
+QString CPageDriver::ResultValue() const
+{
+    return LabelText(dynamic_cast<CSFStatic*>(Child(CCalculatorBottom::kNameResultValue)));
+}
 
 void CPageDriver::ClickMode(unsigned int radioId)
 {
@@ -303,7 +334,10 @@ CMainWindowUnderTest::~CMainWindowUnderTest()
     delete m_event;
 }
 
-QWidget* CMainWindowUnderTest::Window() const { return dynamic_cast<QWidget*>(m_dlg); }
+QWidget* CMainWindowUnderTest::Window() const
+{
+    return dynamic_cast<QWidget*>(m_dlg);
+}
 QWidget* CMainWindowUnderTest::Find(const char* name) const
 {
     QWidget* window = Window();

@@ -53,8 +53,17 @@ private:
 };
 
 // Columns of a channel row.
-enum RowColumn { ColNumber, ColChannels, ColCompression, ColEnvironment, ColResolution,
-                 ColFrameRate, ColAudio, ColBitrate, ColOperation };
+enum RowColumn {
+    ColNumber,
+    ColChannels,
+    ColCompression,
+    ColEnvironment,
+    ColResolution,
+    ColFrameRate,
+    ColAudio,
+    ColBitrate,
+    ColOperation
+};
 
 // Combo entries by index, as the row offers them.
 namespace Entry {

@@ -57,11 +57,11 @@ TEST_F(Totals, NineThousandNineHundredNinetyNineChannelsAtTwelveMegapixels)
 TEST_F(Totals, DeletingTheSecondOfFiveRenumbersAndDropsItsShare)
 {
     d.AddRows(5);
-    d.FillRow(0, H264, 0, CIF, Fps30);      // 512
-    d.FillRow(1, H264, 0, D1, Fps30);       // 1024
-    d.FillRow(2, H265, 0, MP1, Fps30);      // 1024
-    d.FillRow(3, Smart264, 1, MP2, Fps30);  // 1024
-    d.FillRow(4, H264, 0, MP12, Fps30);     // 12288
+    d.FillRow(0, H264, 0, CIF, Fps30);     // 512
+    d.FillRow(1, H264, 0, D1, Fps30);      // 1024
+    d.FillRow(2, H265, 0, MP1, Fps30);     // 1024
+    d.FillRow(3, Smart264, 1, MP2, Fps30); // 1024
+    d.FillRow(4, H264, 0, MP12, Fps30);    // 12288
     d.StepChannels(1, 2);
     ExpectTotals(7, 512 + 3 * 1024 + 1024 + 1024 + 12288.0);
     d.ClickDelete(1);
@@ -112,8 +112,8 @@ struct ModeCase {
     const char* name;
     unsigned int radio;
     const wchar_t* caption;
-    const char* zero;   // value with totals of 0
-    const char* value;  // value for 4 x 316 kbps
+    const char* zero;  // value with totals of 0
+    const char* value; // value for 4 x 316 kbps
     const wchar_t* word1;
     const wchar_t* word2;
 };
@@ -154,13 +154,12 @@ TEST_P(Handover, EachModeAnswersForTheTotalsOfTheTable)
 
 INSTANTIATE_TEST_SUITE_P(
     Page, Handover,
-    testing::Values(
-        ModeCase{ "DiskRequirement", CCalculatorBottom::ID_RADIO_DISK_REQUIREMENT,
-                  L"Request Capacity:", "0.00GB", "13.02GB", nullptr, nullptr },
-        ModeCase{ "RecordingDays", CCalculatorBottom::ID_RADIO_RECORDING_DAY,
-                  L"Recording Days:", "0 %1 0 %2", "2  %1 1.45 %2", L"Day", L"Hour" },
-        ModeCase{ "RaidCapacity", CCalculatorBottom::ID_RADIO_RAID, L"Available Capacity:",
-                  "3.60TB", "3.60TB", nullptr, nullptr },
-        ModeCase{ "RequestDevice", CCalculatorBottom::ID_RADIO_RAID2, L"Request Device:",
-                  "0  %1", "1 %1", L"Device", nullptr }),
+    testing::Values(ModeCase{ "DiskRequirement", CCalculatorBottom::ID_RADIO_DISK_REQUIREMENT,
+                              L"Request Capacity:", "0.00GB", "13.02GB", nullptr, nullptr },
+                    ModeCase{ "RecordingDays", CCalculatorBottom::ID_RADIO_RECORDING_DAY,
+                              L"Recording Days:", "0 %1 0 %2", "2  %1 1.45 %2", L"Day", L"Hour" },
+                    ModeCase{ "RaidCapacity", CCalculatorBottom::ID_RADIO_RAID,
+                              L"Available Capacity:", "3.60TB", "3.60TB", nullptr, nullptr },
+                    ModeCase{ "RequestDevice", CCalculatorBottom::ID_RADIO_RAID2,
+                              L"Request Device:", "0  %1", "1 %1", L"Device", nullptr }),
     [](const testing::TestParamInfo<ModeCase>& info) { return std::string(info.param.name); });

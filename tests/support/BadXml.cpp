@@ -36,13 +36,13 @@ std::string HugeText()
 std::vector<BadXmlCase> BadXmlCases()
 {
     return {
-        {"Missing", std::string(), false},
-        {"Empty", std::string(), true},
-        {"Truncated", "<Root><Entry name=\"OK\" val", true},
-        {"NotXml", "this is not xml at all {\"json\": true}", true},
-        {"Nested50000", DeeplyNested(50000), true},
-        {"Huge10MB", HugeText(), true},
-        {"RandomBinary", RandomBinary(64 * 1024, 7), true},
-        {"RandomBinaryAfterTag", "<Root>" + RandomBinary(4096, 11), true},
+        { "Missing", std::string(), false },
+        { "Empty", std::string(), true },
+        { "Truncated", "<Root><Entry name=\"OK\" val", true },
+        { "NotXml", "this is not xml at all {\"json\": true}", true },
+        { "Nested50000", DeeplyNested(50000), true },
+        { "Huge10MB", HugeText(), true },
+        { "RandomBinary", RandomBinary(64 * 1024, 7), true },
+        { "RandomBinaryAfterTag", "<Root>" + RandomBinary(4096, 11), true },
     };
 }

@@ -6,7 +6,7 @@
 
 struct BadXmlCase {
     const char* name;
-    std::string content;  // empty name of file content means "no file at all"
+    std::string content; // empty name of file content means "no file at all"
     bool present;
 };
 

@@ -8,8 +8,8 @@
 #define EXPECT_EVENTUALLY(cond) \
     EXPECT_TRUE(QTest::qWaitFor([&] { return static_cast<bool>(cond); }, 5000)) << #cond
 
-#define EXPECT_EVENTUALLY_EQ(actual, expected)                                  \
-    do {                                                                        \
-        (void)QTest::qWaitFor([&] { return (actual) == (expected); }, 5000);    \
-        EXPECT_EQ(actual, expected);                                            \
+#define EXPECT_EVENTUALLY_EQ(actual, expected)                               \
+    do {                                                                     \
+        (void)QTest::qWaitFor([&] { return (actual) == (expected); }, 5000); \
+        EXPECT_EQ(actual, expected);                                         \
     } while (0)

@@ -9,12 +9,11 @@ namespace {
 
 std::mutex g_liveMutex;
 std::set<const void*> g_live;
-std::atomic<int> g_stray{0};
+std::atomic<int> g_stray{ 0 };
 
 } // namespace
 
-LoopingManager::LoopingManager(int playFlag)
-    : m_playFlag(playFlag)
+LoopingManager::LoopingManager(int playFlag) : m_playFlag(playFlag)
 {
     std::lock_guard<std::mutex> lock(g_liveMutex);
     g_live.insert(this);
@@ -33,7 +32,8 @@ int LoopingManager::StrayCallbacks()
 
 std::chrono::steady_clock::time_point LoopingManager::FirstEnd() const
 {
-    return std::chrono::steady_clock::time_point(std::chrono::steady_clock::duration(m_firstEnd.load()));
+    return std::chrono::steady_clock::time_point(
+        std::chrono::steady_clock::duration(m_firstEnd.load()));
 }
 
 void LoopingManager::PlayFile(const std::string& path, void* window)
@@ -98,7 +98,8 @@ void LoopingManager::OnFileEnd(int, void* user)
     }
     auto* self = static_cast<LoopingManager*>(user);
     long long none = 0;
-    self->m_firstEnd.compare_exchange_strong(none, std::chrono::steady_clock::now().time_since_epoch().count());
+    self->m_firstEnd.compare_exchange_strong(
+        none, std::chrono::steady_clock::now().time_since_epoch().count());
     ++self->m_ends;
     self->Stop();
     self->PlayFile(self->m_path, self->m_window);

@@ -33,9 +33,9 @@ public:
 private:
     static void OnFileEnd(int port, void* user);
 
-    std::atomic<int> m_port{kNoPort};
-    std::atomic<int> m_ends{0};
-    std::atomic<long long> m_firstEnd{0};
+    std::atomic<int> m_port{ kNoPort };
+    std::atomic<int> m_ends{ 0 };
+    std::atomic<long long> m_firstEnd{ 0 };
     const int m_playFlag;
     std::string m_path;
     void* m_window = nullptr;

@@ -4,8 +4,7 @@
 #include <QElapsedTimer>
 #include <QTest>
 
-PlaybackStage::PlaybackStage(QSize videoSize)
-    : m_top(std::make_unique<QWidget>())
+PlaybackStage::PlaybackStage(QSize videoSize) : m_top(std::make_unique<QWidget>())
 {
     m_top->resize(videoSize + QSize(20, 50));
     m_video = new QWidget(m_top.get());

@@ -5,7 +5,6 @@
 #include <QImage>
 #include <QSize>
 #include <QWidget>
-
 #include <functional>
 #include <memory>
 #include <string>

@@ -10,24 +10,23 @@
 // second of clip. First frame: from the call of vexplay_Play to the first
 // paint event of the picture.
 
+#include "vexplay/vexplay.h"
+
 #include "tests/vexplay/PlaybackStage.h"
 #include "tests/vexplay/SurfaceProbe.h"
-#include "vexplay/vexplay.h"
 
 #include <QApplication>
 #include <QEventLoop>
 #include <QTimer>
-
-#include <sys/resource.h>
-#include <sys/wait.h>
-#include <spawn.h>
-#include <unistd.h>
-
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <spawn.h>
 #include <string>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
 #include <vector>
 
 extern char** environ;
@@ -51,8 +50,8 @@ double OwnCpu()
 // CPU seconds of one ffmpeg decoding run; negative when it failed.
 double FfmpegCpu(const std::string& clip)
 {
-    std::vector<std::string> args = {"ffmpeg", "-hide_banner", "-loglevel", "error", "-nostdin", "-i", clip, "-f", "null",
-        "-"};
+    std::vector<std::string> args = { "ffmpeg", "-hide_banner", "-loglevel", "error", "-nostdin",
+                                      "-i",     clip,           "-f",        "null",  "-" };
     std::vector<char*> argv;
     for (std::string& a : args)
         argv.push_back(a.data());
@@ -71,7 +70,8 @@ double FfmpegCpu(const std::string& clip)
 void QuitLoop(int, void* user)
 {
     auto* loop = static_cast<QEventLoop*>(user);
-    QMetaObject::invokeMethod(loop, [loop] { loop->quit(); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        loop, [loop] { loop->quit(); }, Qt::QueuedConnection);
 }
 
 struct PlayResult {
@@ -85,8 +85,8 @@ PlayResult PlayOnce(const std::string& clip)
     PlaybackStage stage(QSize(450, 430));
     QEventLoop loop;
     int port = -1;
-    if (!vexplay_GetPort(&port) || !vexplay_OpenFile(port, clip.c_str())
-        || !vexplay_SetFileEndCallback(port, &QuitLoop, &loop))
+    if (!vexplay_GetPort(&port) || !vexplay_OpenFile(port, clip.c_str()) ||
+        !vexplay_SetFileEndCallback(port, &QuitLoop, &loop))
         return result;
     QTimer::singleShot(30000, &loop, &QEventLoop::quit);
     const double before = OwnCpu();
@@ -108,7 +108,9 @@ double FirstFrameMs(const std::string& clip)
     if (vexplay_GetPort(&port) && vexplay_OpenFile(port, clip.c_str())) {
         const auto start = std::chrono::steady_clock::now();
         if (vexplay_Play(port, stage.Handle())) {
-            const double call = std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
+            const double call =
+                std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start)
+                    .count();
             // The probe's clock starts when Play has returned.
             SurfaceProbe probe(stage.Surface());
             if (PlaybackStage::WaitFor([&] { return probe.Paints() > 0; }, 5000))
@@ -133,9 +135,9 @@ int main(int argc, char** argv)
     QApplication app(argc, argv);
     const int rounds = argc > 1 ? std::max(1, std::atoi(argv[1])) : 3;
 
-    std::printf("%-12s %14s %14s %7s %9s %12s %12s\n", "clip", "play cpu/s", "ffmpeg cpu/s", "ratio", "frames",
-        "first ms med", "first ms max");
-    for (const char* name : {"1low.kvf", "1medium.kvf", "1high.kvf"}) {
+    std::printf("%-12s %14s %14s %7s %9s %12s %12s\n", "clip", "play cpu/s", "ffmpeg cpu/s",
+                "ratio", "frames", "first ms med", "first ms max");
+    for (const char* name : { "1low.kvf", "1medium.kvf", "1high.kvf" }) {
         const std::string clip = PlaybackStage::Clip(name);
         std::vector<double> play;
         std::vector<double> ffmpeg;
@@ -151,8 +153,9 @@ int main(int argc, char** argv)
             first.push_back(FirstFrameMs(clip));
         const double p = Median(play);
         const double f = Median(ffmpeg);
-        std::printf("%-12s %13.1fms %13.1fms %7.2f %9d %12.1f %12.1f\n", name, p * 1000, f * 1000, f > 0 ? p / f : 0.0,
-            paints, Median(first), *std::max_element(first.begin(), first.end()));
+        std::printf("%-12s %13.1fms %13.1fms %7.2f %9d %12.1f %12.1f\n", name, p * 1000, f * 1000,
+                    f > 0 ? p / f : 0.0, paints, Median(first),
+                    *std::max_element(first.begin(), first.end()));
     }
     return 0;
 }

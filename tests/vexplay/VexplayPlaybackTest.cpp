@@ -1,17 +1,16 @@
 // Playing the sample clips into a window: frames arrive, the clip ends on
 // time and restarts through its callback.
 
+#include "vexplay/vexplay.h"
+
 #include "tests/vexplay/LoopingManager.h"
 #include "tests/vexplay/PlaybackStage.h"
 #include "tests/vexplay/SurfaceProbe.h"
-#include "vexplay/vexplay.h"
 
 #include <QColor>
 #include <QImage>
-
-#include <gtest/gtest.h>
-
 #include <chrono>
+#include <gtest/gtest.h>
 #include <string>
 
 namespace {
@@ -23,7 +22,8 @@ struct DirectPlay {
 
     DirectPlay(const std::string& clip, void* window)
     {
-        if (vexplay_GetPort(&port) && vexplay_OpenFile(port, clip.c_str()) && vexplay_SetPlayFlag(port, 1))
+        if (vexplay_GetPort(&port) && vexplay_OpenFile(port, clip.c_str()) &&
+            vexplay_SetPlayFlag(port, 1))
             playing = vexplay_Play(port, window) != 0;
     }
     ~DirectPlay()

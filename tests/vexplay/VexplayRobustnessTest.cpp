@@ -1,16 +1,16 @@
 // What must not hurt the library: wrong calls, bad files, a window that goes
 // while it plays, and the dialog's close racing the clip's restart.
 
+#include "vexplay/vexplay.h"
+
+#include "tests/support/TempDir.h"
 #include "tests/vexplay/LoopingManager.h"
 #include "tests/vexplay/PlaybackStage.h"
 #include "tests/vexplay/SurfaceProbe.h"
-#include "tests/support/TempDir.h"
-#include "vexplay/vexplay.h"
-
-#include <gtest/gtest.h>
 
 #include <atomic>
 #include <fstream>
+#include <gtest/gtest.h>
 #include <iterator>
 #include <memory>
 #include <random>
@@ -24,7 +24,7 @@ constexpr int kPortCount = 64;
 std::string ReadFile(const std::string& path)
 {
     std::ifstream in(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+    return { std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>() };
 }
 
 std::string RandomBytes(size_t size, unsigned seed)
@@ -57,7 +57,7 @@ TEST(VexplayCalls, WrongPortsAndArgumentsFail)
 {
     PlaybackStage stage(QSize(160, 90));
     const std::string clip = PlaybackStage::ShortClip();
-    for (int port : {-1, kPortCount, LoopingManager::kNoPort, 1 << 30}) {
+    for (int port : { -1, kPortCount, LoopingManager::kNoPort, 1 << 30 }) {
         SCOPED_TRACE(port);
         EXPECT_EQ(vexplay_OpenFile(port, clip.c_str()), 0);
         EXPECT_EQ(vexplay_Play(port, stage.Handle()), 0);
@@ -103,12 +103,18 @@ std::string TruncatedHalf(const TempDir& dir)
 }
 
 const BadFile kBadFiles[] = {
-    {"missing", Expect::Fails, [](const TempDir& d) { return d.File("none.kvf"); }},
-    {"zeroed", Expect::Fails,
-        [](const TempDir& d) { d.Write("z.kvf", std::string(256 * 1024, '\0')); return d.File("z.kvf"); }},
-    {"random_bytes", Expect::Fails,
-        [](const TempDir& d) { d.Write("r.kvf", RandomBytes(256 * 1024, 7)); return d.File("r.kvf"); }},
-    {"truncated_50pc", Expect::Either, [](const TempDir& d) { return TruncatedHalf(d); }},
+    { "missing", Expect::Fails, [](const TempDir& d) { return d.File("none.kvf"); } },
+    { "zeroed", Expect::Fails,
+      [](const TempDir& d) {
+          d.Write("z.kvf", std::string(256 * 1024, '\0'));
+          return d.File("z.kvf");
+      } },
+    { "random_bytes", Expect::Fails,
+      [](const TempDir& d) {
+          d.Write("r.kvf", RandomBytes(256 * 1024, 7));
+          return d.File("r.kvf");
+      } },
+    { "truncated_50pc", Expect::Either, [](const TempDir& d) { return TruncatedHalf(d); } },
 };
 
 class BadClip : public testing::TestWithParam<BadFile> {};
@@ -119,7 +125,7 @@ TEST_P(BadClip, FailsOrEndsCleanly)
     TempDir dir;
     const std::string path = bad.make(dir);
     PlaybackStage stage(QSize(160, 90));
-    std::atomic<int> ends{0};
+    std::atomic<int> ends{ 0 };
     int port = -1;
     ASSERT_EQ(vexplay_GetPort(&port), 1);
     const int opened = vexplay_OpenFile(port, path.c_str());
@@ -139,7 +145,9 @@ TEST_P(BadClip, FailsOrEndsCleanly)
 }
 
 INSTANTIATE_TEST_SUITE_P(Files, BadClip, testing::ValuesIn(kBadFiles),
-    [](const testing::TestParamInfo<BadFile>& info) { return std::string(info.param.name); });
+                         [](const testing::TestParamInfo<BadFile>& info) {
+                             return std::string(info.param.name);
+                         });
 
 // --- the window goes ----------------------------------------------------------
 
@@ -169,7 +177,8 @@ TEST(VexplayWindow, CloseRacesTheFileEndCallback)
         auto* manager = new LoopingManager(0);
         manager->PlayFile(PlaybackStage::ShortClip(), stage->Handle());
         const int ends = 1 + static_cast<int>(rng() % 3);
-        ASSERT_TRUE(PlaybackStage::WaitFor([&] { return manager->Ends() >= ends; }, 10000)) << "round " << round;
+        ASSERT_TRUE(PlaybackStage::WaitFor([&] { return manager->Ends() >= ends; }, 10000))
+            << "round " << round;
         std::this_thread::sleep_for(std::chrono::microseconds(rng() % 500));
         // Mostly the close button; now and then the window just goes.
         if (round % 5 != 4)

@@ -26,7 +26,8 @@ QFont taglineFont(qreal pixels)
 {
     QFont font;
     // The style sheet's families, in its order.
-    font.setFamilies({QStringLiteral("Segoe UI"), QStringLiteral("Noto Sans CJK SC"), QStringLiteral("DejaVu Sans")});
+    font.setFamilies({ QStringLiteral("Segoe UI"), QStringLiteral("Noto Sans CJK SC"),
+                       QStringLiteral("DejaVu Sans") });
     font.setPixelSize(qRound(pixels));
     font.setLetterSpacing(QFont::PercentageSpacing, 104);
     return font;
@@ -36,15 +37,15 @@ QFont taglineFont(qreal pixels)
 
 void BrandSkins::addTo(std::vector<SkinEntry>& out)
 {
-    out.push_back({QStringLiteral("Tallix_LOGO.png"), QSize(300, 59), &BrandSkins::logo});
-    out.push_back({QStringLiteral("AboutPic.png"), QSize(359, 59), &BrandSkins::aboutBanner});
-    out.push_back({QStringLiteral("tallix.png"), QSize(256, 256), &BrandSkins::appIcon});
+    out.push_back({ QStringLiteral("Tallix_LOGO.png"), QSize(300, 59), &BrandSkins::logo });
+    out.push_back({ QStringLiteral("AboutPic.png"), QSize(359, 59), &BrandSkins::aboutBanner });
+    out.push_back({ QStringLiteral("tallix.png"), QSize(256, 256), &BrandSkins::appIcon });
 }
 
 QPainterPath BrandSkins::wordmark(qreal H, qreal* advance)
 {
-    const qreal s = 0.16 * H;   // stroke
-    const qreal X = 0.7 * H;    // x-height
+    const qreal s = 0.16 * H; // stroke
+    const qreal X = 0.7 * H;  // x-height
     const qreal gap = 0.15 * H;
     QPainterPath out;
     out.setFillRule(Qt::WindingFill);
@@ -134,12 +135,13 @@ void BrandSkins::badge(QPainter& p, const QRectF& rect)
     p.drawRoundedRect(rect, rect.width() * 0.26, rect.width() * 0.26);
     const qreal gw = rect.width() * 0.44;
     const qreal gh = rect.height() * 0.52;
-    Glyphs::storage(p, QRectF(rect.center().x() - gw / 2, rect.center().y() - gh / 2, gw, gh), SkinPalette::onAccent(),
-                    rect.width() * 0.065);
+    Glyphs::storage(p, QRectF(rect.center().x() - gw / 2, rect.center().y() - gh / 2, gw, gh),
+                    SkinPalette::onAccent(), rect.width() * 0.065);
     p.restore();
 }
 
-qreal BrandSkins::signature(QPainter& p, const QPointF& origin, qreal capHeight, qreal taglinePixels)
+qreal BrandSkins::signature(QPainter& p, const QPointF& origin, qreal capHeight,
+                            qreal taglinePixels)
 {
     p.save();
     p.setRenderHint(QPainter::Antialiasing);

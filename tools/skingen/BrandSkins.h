@@ -4,15 +4,13 @@
 
 #include <QPainterPath>
 #include <QPointF>
-
 #include <vector>
 
 class QPainter;
 
 // The product logo on the toolbar, the banner of the About dialog and the
 // application icon that desktops show.
-class BrandSkins
-{
+class BrandSkins {
 public:
     static void addTo(std::vector<SkinEntry>& out);
 
@@ -27,5 +25,6 @@ private:
     static void badge(QPainter& p, const QRectF& rect);
     // Wordmark and product line from the baseline origin; returns the x at
     // which the text ends.
-    static qreal signature(QPainter& p, const QPointF& origin, qreal capHeight, qreal taglinePixels);
+    static qreal signature(QPainter& p, const QPointF& origin, qreal capHeight,
+                           qreal taglinePixels);
 };

@@ -28,12 +28,14 @@ void shadedFace(QPainter& p, const QRectF& rect, qreal radius, const FaceColours
 void addStates(std::vector<SkinEntry>& out, const QSize& size, const QString (&names)[4],
                const std::function<void(QPainter&, const QSize&, SkinState)>& draw)
 {
-    const SkinState states[4] = {SkinState::Normal, SkinState::Hover, SkinState::Pressed, SkinState::Disabled};
+    const SkinState states[4] = { SkinState::Normal, SkinState::Hover, SkinState::Pressed,
+                                  SkinState::Disabled };
     for (int i = 0; i < 4; ++i) {
         if (names[i].isEmpty())
             continue;
         const SkinState state = states[i];
-        out.push_back({names[i], size, [draw, state](QPainter& p, const QSize& s) { draw(p, s, state); }});
+        out.push_back(
+            { names[i], size, [draw, state](QPainter& p, const QSize& s) { draw(p, s, state); } });
     }
 }
 
@@ -61,33 +63,37 @@ void ButtonSkins::addTo(std::vector<SkinEntry>& out)
                                    name + QStringLiteral("-pressed.png"),
                                    name + QStringLiteral("-disabled.png") };
         const Chip chip = files.chip;
-        addStates(out, files.size, names,
-                  [chip](QPainter& p, const QSize& s, SkinState st) { windowChip(p, s, chip, st); });
+        addStates(out, files.size, names, [chip](QPainter& p, const QSize& s, SkinState st) {
+            windowChip(p, s, chip, st);
+        });
     }
 
     // Channel page: a label is laid over these from x 26 (add) and x 25 (clear).
-    const QString add[4] = {QStringLiteral("add_nor.png"), QStringLiteral("add_hove.png"),
-                            QStringLiteral("add_press.png"), QStringLiteral("add_dis.png")};
+    const QString add[4] = { QStringLiteral("add_nor.png"), QStringLiteral("add_hove.png"),
+                             QStringLiteral("add_press.png"), QStringLiteral("add_dis.png") };
     addStates(out, QSize(131, 36), add, &ButtonSkins::addButton);
     // The page uses one picture for hover and pressed.
-    const QString clear[4] = {QStringLiteral("delect_nor.png"), QStringLiteral("delect_press.png"), QString(),
-                              QStringLiteral("delect_dis.png")};
+    const QString clear[4] = { QStringLiteral("delect_nor.png"), QStringLiteral("delect_press.png"),
+                               QString(), QStringLiteral("delect_dis.png") };
     addStates(out, QSize(100, 36), clear, &ButtonSkins::clearButton);
 
-    const QString rowDel[4] = {QStringLiteral("list_clear_nor.png"), QStringLiteral("list_clear_hover.png"),
-                               QString(), QStringLiteral("list_clear_dis.png")};
+    const QString rowDel[4] = { QStringLiteral("list_clear_nor.png"),
+                                QStringLiteral("list_clear_hover.png"), QString(),
+                                QStringLiteral("list_clear_dis.png") };
     addStates(out, QSize(22, 27), rowDel, &ButtonSkins::rowDelete);
 
     // Text buttons of the message dialog and the stream editor, which also
     // asks for the misspelt disabled picture.
-    const QString text[4] = {QStringLiteral("btn_normal.png"), QStringLiteral("btn_hover.png"),
-                             QStringLiteral("btn_press.png"), QStringLiteral("btn_disabled.png")};
+    const QString text[4] = { QStringLiteral("btn_normal.png"), QStringLiteral("btn_hover.png"),
+                              QStringLiteral("btn_press.png"), QStringLiteral("btn_disabled.png") };
     addStates(out, QSize(72, 25), text, &ButtonSkins::textButton);
-    out.push_back({QStringLiteral("btn_diabled.png"), QSize(72, 25),
-                   [](QPainter& p, const QSize& s) { textButton(p, s, SkinState::Disabled); }});
+    out.push_back({ QStringLiteral("btn_diabled.png"), QSize(72, 25),
+                    [](QPainter& p, const QSize& s) { textButton(p, s, SkinState::Disabled); } });
 
-    const QString calc[4] = {QStringLiteral("calculator_nor.png"), QStringLiteral("calculator_hover.png"),
-                             QStringLiteral("calculator_push.png"), QStringLiteral("calculator_dis.png")};
+    const QString calc[4] = { QStringLiteral("calculator_nor.png"),
+                              QStringLiteral("calculator_hover.png"),
+                              QStringLiteral("calculator_push.png"),
+                              QStringLiteral("calculator_dis.png") };
     addStates(out, QSize(56, 48), calc, &ButtonSkins::calculateButton);
 }
 
@@ -164,7 +170,8 @@ void ButtonSkins::addButton(QPainter& p, const QSize& size, SkinState state)
     p.setPen(Qt::NoPen);
     p.setBrush(disc);
     p.drawEllipse(c, 8, 8);
-    Glyphs::plus(p, QRectF(c.x() - 4, c.y() - 4, 8, 8), off ? SkinPalette::card() : SkinPalette::onAccent(), 1.8);
+    Glyphs::plus(p, QRectF(c.x() - 4, c.y() - 4, 8, 8),
+                 off ? SkinPalette::card() : SkinPalette::onAccent(), 1.8);
 }
 
 void ButtonSkins::clearButton(QPainter& p, const QSize& size, SkinState state)

@@ -4,15 +4,13 @@
 #include "tools/skingen/SkinState.h"
 
 #include <QRectF>
-
 #include <vector>
 
 class QPainter;
 
 // State images of the push buttons; each image has the size of its button,
 // since a button stretches its picture over itself.
-class ButtonSkins
-{
+class ButtonSkins {
 public:
     static void addTo(std::vector<SkinEntry>& out);
 

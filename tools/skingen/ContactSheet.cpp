@@ -4,7 +4,6 @@
 #include <QFont>
 #include <QFontMetrics>
 #include <QPainter>
-
 #include <algorithm>
 #include <vector>
 
@@ -22,7 +21,8 @@ void checkerboard(QPainter& p, const QRect& r)
     for (int y = r.top(); y <= r.bottom(); y += cell) {
         for (int x = r.left(); x <= r.right(); x += cell) {
             const bool odd = ((x - r.left()) / cell + (y - r.top()) / cell) % 2;
-            p.fillRect(QRect(x, y, cell, cell), odd ? QColor(0xA8, 0xB0, 0xB9) : QColor(0xC4, 0xCA, 0xD1));
+            p.fillRect(QRect(x, y, cell, cell),
+                       odd ? QColor(0xA8, 0xB0, 0xB9) : QColor(0xC4, 0xCA, 0xD1));
         }
     }
     p.restore();
@@ -46,8 +46,7 @@ qreal ContactSheet::zoomFor(const QSize& size)
 
 QImage ContactSheet::build(const QString& directory, const QStringList& names)
 {
-    struct Cell
-    {
+    struct Cell {
         QString name;
         QImage image;
         QSize shown;
@@ -73,7 +72,8 @@ QImage ContactSheet::build(const QString& directory, const QStringList& names)
     int y = kMargin;
     int rowHeight = 0;
     for (Cell& c : cells) {
-        const int cellWidth = qMax(c.shown.width(), fm.horizontalAdvance(c.name + QStringLiteral(" 0000x000")));
+        const int cellWidth =
+            qMax(c.shown.width(), fm.horizontalAdvance(c.name + QStringLiteral(" 0000x000")));
         if (x > kMargin && x + cellWidth > kWidth - kMargin) {
             x = kMargin;
             y += rowHeight + kMargin;
@@ -90,8 +90,9 @@ QImage ContactSheet::build(const QString& directory, const QStringList& names)
     QPainter p(&sheet);
     p.setFont(font);
     for (const Cell& c : cells) {
-        const QString size = c.image.isNull() ? QStringLiteral("MISSING")
-                                              : QStringLiteral("%1x%2").arg(c.image.width()).arg(c.image.height());
+        const QString size =
+            c.image.isNull() ? QStringLiteral("MISSING")
+                             : QStringLiteral("%1x%2").arg(c.image.width()).arg(c.image.height());
         p.setPen(c.image.isNull() ? QColor(Qt::red) : QColor(0xE8, 0xEC, 0xF0));
         p.drawText(c.at + QPoint(0, 13), c.name + QLatin1Char(' ') + size);
         const QRect target(c.at + QPoint(0, kLabel), c.shown);

@@ -2,9 +2,9 @@
 
 #include <QImage>
 #include <QPainter>
-#include <QtMath>
 #include <QPainterPath>
 #include <QPen>
+#include <QtMath>
 #include <initializer_list>
 
 namespace {
@@ -80,7 +80,8 @@ void Glyphs::info(QPainter& p, const QRectF& box, const QColor& colour, qreal st
     QPen thin(colour, stroke * 0.7, Qt::SolidLine, Qt::FlatCap);
     p.setPen(thin);
     const qreal half = stroke * 1.25;
-    p.drawLine(QPointF(cx - half, box.bottom() - thin.widthF() / 2), QPointF(cx + half, box.bottom() - thin.widthF() / 2));
+    p.drawLine(QPointF(cx - half, box.bottom() - thin.widthF() / 2),
+               QPointF(cx + half, box.bottom() - thin.widthF() / 2));
     p.drawLine(QPointF(cx - half, box.top() + box.height() * 0.36 + thin.widthF() / 2),
                QPointF(cx, box.top() + box.height() * 0.36 + thin.widthF() / 2));
     p.restore();
@@ -109,7 +110,8 @@ void Glyphs::trash(QPainter& p, const QRectF& b, const QColor& colour, qreal str
     p.drawLine(at(b, 0.6, 0.44), at(b, 0.59, 0.86));
 }
 
-void Glyphs::clearList(QPainter& p, const QRectF& b, const QColor& colour, const QColor& badge, qreal stroke)
+void Glyphs::clearList(QPainter& p, const QRectF& b, const QColor& colour, const QColor& badge,
+                       qreal stroke)
 {
     const LineScope scope(p, colour, stroke);
     p.drawLine(at(b, 0.0, 0.15), at(b, 0.78, 0.15));
@@ -140,7 +142,8 @@ void Glyphs::calculator(QPainter& p, const QRectF& b, const QColor& colour, qrea
     const qreal r = b.width() * 0.065;
     for (int row = 0; row < 3; ++row) {
         for (int col = 0; col < 3; ++col) {
-            const QPointF c(b.left() + b.width() * (0.3 + 0.2 * col), b.top() + b.height() * (0.5 + 0.16 * row));
+            const QPointF c(b.left() + b.width() * (0.3 + 0.2 * col),
+                            b.top() + b.height() * (0.5 + 0.16 * row));
             p.drawEllipse(c, r, r);
         }
     }
@@ -173,8 +176,10 @@ void Glyphs::cameraOff(QPainter& p, const QRectF& box, const QColor& colour, qre
         QPainter lp(&layer);
         lp.setRenderHint(QPainter::Antialiasing);
         const QRectF b(box.left() - origin.x(), box.top() - origin.y(), box.width(), box.height());
-        camera(lp, b.adjusted(b.width() * 0.08, b.height() * 0.12, -b.width() * 0.08, -b.height() * 0.12), colour,
-               stroke);
+        camera(lp,
+               b.adjusted(b.width() * 0.08, b.height() * 0.12, -b.width() * 0.08,
+                          -b.height() * 0.12),
+               colour, stroke);
         const QPointF from = b.topLeft() + QPointF(b.width() * 0.1, b.height() * 0.08);
         const QPointF to = b.bottomRight() - QPointF(b.width() * 0.1, b.height() * 0.08);
         lp.setCompositionMode(QPainter::CompositionMode_Clear);
@@ -190,7 +195,7 @@ void Glyphs::cameraOff(QPainter& p, const QRectF& box, const QColor& colour, qre
 void Glyphs::sliders(QPainter& p, const QRectF& b, const QColor& colour, qreal stroke)
 {
     const LineScope scope(p, colour, stroke);
-    const qreal knobs[3] = {0.3, 0.7, 0.45};
+    const qreal knobs[3] = { 0.3, 0.7, 0.45 };
     for (int i = 0; i < 3; ++i) {
         const qreal y = b.top() + b.height() * (0.15 + 0.35 * i);
         p.setPen(linePen(colour, stroke));

@@ -4,12 +4,10 @@
 
 #include <QImage>
 #include <QStringList>
-
 #include <vector>
 
 // Every image of the skin, by the file name under which the program loads it.
-class SkinCatalog
-{
+class SkinCatalog {
 public:
     SkinCatalog();
 

@@ -7,8 +7,7 @@
 // rows, one amber accent for hover, pressed, checked and focus, grey for
 // disabled, red only for closing and deleting. data/Tallix_Style.css repeats
 // these values for what Qt paints itself; change both together.
-class SkinPalette
-{
+class SkinPalette {
 public:
     // Top band (toolbar, About banner, window chips).
     static QColor chromeDeep() { return QColor(0x16, 0x18, 0x1C); }

@@ -43,7 +43,8 @@ QPainterPath SkinShapes::roundedPath(const QRectF& rect, qreal radius, bool topL
     return path;
 }
 
-void SkinShapes::panel(QPainter& p, const QRectF& rect, qreal radius, const QBrush& fill, const QColor& border)
+void SkinShapes::panel(QPainter& p, const QRectF& rect, qreal radius, const QBrush& fill,
+                       const QColor& border)
 {
     p.save();
     p.setPen(Qt::NoPen);

@@ -9,16 +9,17 @@ class QPainter;
 
 // Drawing primitives shared by all skin pieces. Borders are one pixel wide and
 // laid on pixel centres so that they stay crisp under antialiasing.
-class SkinShapes
-{
+class SkinShapes {
 public:
     // Rounded rectangle; each corner can be rounded or square.
-    static QPainterPath roundedPath(const QRectF& rect, qreal radius, bool topLeft = true, bool topRight = true,
-                                    bool bottomRight = true, bool bottomLeft = true);
+    static QPainterPath roundedPath(const QRectF& rect, qreal radius, bool topLeft = true,
+                                    bool topRight = true, bool bottomRight = true,
+                                    bool bottomLeft = true);
 
     // Fills the rectangle and, if the border is valid, draws a crisp 1 px edge
     // inside it.
-    static void panel(QPainter& p, const QRectF& rect, qreal radius, const QBrush& fill, const QColor& border);
+    static void panel(QPainter& p, const QRectF& rect, qreal radius, const QBrush& fill,
+                      const QColor& border);
 
     // A "V" (or inverted "V" when up) centred on the point.
     static void chevron(QPainter& p, const QPointF& centre, qreal halfWidth, qreal height, bool up,

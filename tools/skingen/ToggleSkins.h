@@ -8,8 +8,7 @@ class QPainter;
 
 // Pictures of toggles, which draw their picture at its natural size: the
 // calculator's mode tabs, the audio switch of a table row and a check mark.
-class ToggleSkins
-{
+class ToggleSkins {
 public:
     static void addTo(std::vector<SkinEntry>& out);
 

@@ -10,24 +10,28 @@
 void VideoSkins::addTo(std::vector<SkinEntry>& out)
 {
     // The picture fills the preview's video window, 450 by 430.
-    out.push_back({QStringLiteral("NoVideo.png"), QSize(450, 430), &VideoSkins::noVideo});
-    struct Item
-    {
+    out.push_back({ QStringLiteral("NoVideo.png"), QSize(450, 430), &VideoSkins::noVideo });
+    struct Item {
         const char* name;
         Icon icon;
         bool active;
     };
     const Item items[] = {
-        {"btn_videoclose.png", Icon::Close, false},      {"btn_videoclosedown.png", Icon::Close, true},
-        {"btn_videosnap.png", Icon::Snapshot, false},    {"btn_videosnapdown.png", Icon::Snapshot, true},
-        {"btn_propertynor.png", Icon::Property, false},  {"btn_propertydown.png", Icon::Property, true},
-        {"btn_dragcheck.png", Icon::Drag, true},         {"btn_draguncheck.png", Icon::Drag, false},
+        { "btn_videoclose.png", Icon::Close, false },
+        { "btn_videoclosedown.png", Icon::Close, true },
+        { "btn_videosnap.png", Icon::Snapshot, false },
+        { "btn_videosnapdown.png", Icon::Snapshot, true },
+        { "btn_propertynor.png", Icon::Property, false },
+        { "btn_propertydown.png", Icon::Property, true },
+        { "btn_dragcheck.png", Icon::Drag, true },
+        { "btn_draguncheck.png", Icon::Drag, false },
     };
     for (const Item& item : items) {
         const Icon icon = item.icon;
         const bool active = item.active;
-        out.push_back({QString::fromLatin1(item.name), QSize(20, 20),
-                       [icon, active](QPainter& p, const QSize& s) { button(p, s, icon, active); }});
+        out.push_back(
+            { QString::fromLatin1(item.name), QSize(20, 20),
+              [icon, active](QPainter& p, const QSize& s) { button(p, s, icon, active); } });
     }
 }
 
@@ -37,7 +41,8 @@ void VideoSkins::button(QPainter& p, const QSize& size, Icon icon, bool active)
     QColor glyph = SkinPalette::onChrome();
     if (active) {
         const QColor fill = icon == Icon::Close ? SkinPalette::danger() : SkinPalette::accent();
-        SkinShapes::panel(p, QRectF(0, 0, size.width(), size.height()), 3, fill, SkinShapes::mix(fill, Qt::black, 0.2));
+        SkinShapes::panel(p, QRectF(0, 0, size.width(), size.height()), 3, fill,
+                          SkinShapes::mix(fill, Qt::black, 0.2));
         glyph = icon == Icon::Close ? SkinPalette::onDanger() : SkinPalette::onAccent();
     } else if (icon == Icon::Drag) {
         glyph = SkinPalette::onChromeMuted();
@@ -87,5 +92,6 @@ void VideoSkins::noVideo(QPainter& p, const QSize& size)
     p.drawLine(br, br - QPointF(len, 0));
     p.drawLine(br, br - QPointF(0, len));
 
-    Glyphs::cameraOff(p, QRectF(w / 2.0 - 44, h / 2.0 - 36, 88, 72), SkinPalette::videoGlyph(), 3.5);
+    Glyphs::cameraOff(p, QRectF(w / 2.0 - 44, h / 2.0 - 36, 88, 72), SkinPalette::videoGlyph(),
+                      3.5);
 }

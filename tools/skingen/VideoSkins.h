@@ -8,8 +8,7 @@ class QPainter;
 
 // The scene preview's video area: its idle picture and the 20 by 20 buttons
 // of a sub window's title bar.
-class VideoSkins
-{
+class VideoSkins {
 public:
     static void addTo(std::vector<SkinEntry>& out);
 

@@ -24,12 +24,15 @@ constexpr int kPanelTabBase = 73;
 
 void WindowSkins::addTo(std::vector<SkinEntry>& out)
 {
-    out.push_back({QStringLiteral("FrameMain.png"), QSize(1100, 750), &WindowSkins::frameMain});
-    out.push_back({QStringLiteral("bgColorMain.png"), QSize(16, 16), &WindowSkins::pageBackground});
-    out.push_back({QStringLiteral("bg_toolbar.png"), QSize(1100, 60), &WindowSkins::toolbar});
-    out.push_back({QStringLiteral("Frame.png"), QSize(148, 140), &WindowSkins::dialogFrame});
-    out.push_back({QStringLiteral("background.png"), QSize(148, 140), &WindowSkins::dialogBackground});
-    out.push_back({QStringLiteral("BottomBg(2).png"), QSize(1050, 287), &WindowSkins::calculatorPanel});
+    out.push_back({ QStringLiteral("FrameMain.png"), QSize(1100, 750), &WindowSkins::frameMain });
+    out.push_back(
+        { QStringLiteral("bgColorMain.png"), QSize(16, 16), &WindowSkins::pageBackground });
+    out.push_back({ QStringLiteral("bg_toolbar.png"), QSize(1100, 60), &WindowSkins::toolbar });
+    out.push_back({ QStringLiteral("Frame.png"), QSize(148, 140), &WindowSkins::dialogFrame });
+    out.push_back(
+        { QStringLiteral("background.png"), QSize(148, 140), &WindowSkins::dialogBackground });
+    out.push_back(
+        { QStringLiteral("BottomBg(2).png"), QSize(1050, 287), &WindowSkins::calculatorPanel });
 }
 
 void WindowSkins::toolbar(QPainter& p, const QSize& size)
@@ -95,7 +98,8 @@ void WindowSkins::dialogFrame(QPainter& p, const QSize& size)
     // Only the title band and the 1 px edges are opaque: the window's own
     // background shows through the rest of every piece.
     dialogHeader(p, w);
-    SkinShapes::hLine(p, 0, w - 1, kDialogTitle - 1, SkinShapes::mix(SkinPalette::dialogHead(), SkinPalette::dialogEdge(), 0.3));
+    SkinShapes::hLine(p, 0, w - 1, kDialogTitle - 1,
+                      SkinShapes::mix(SkinPalette::dialogHead(), SkinPalette::dialogEdge(), 0.3));
     SkinShapes::hLine(p, 0, w - 1, 0, SkinPalette::dialogEdge());
     SkinShapes::vLine(p, 0, 0, h - 1, SkinPalette::dialogEdge());
     SkinShapes::vLine(p, w - 1, 0, h - 1, SkinPalette::dialogEdge());

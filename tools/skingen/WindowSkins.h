@@ -7,8 +7,7 @@
 class QPainter;
 
 // Window frames, window and view backgrounds.
-class WindowSkins
-{
+class WindowSkins {
 public:
     static void addTo(std::vector<SkinEntry>& out);
 

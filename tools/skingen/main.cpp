@@ -11,7 +11,6 @@
 #include <QGuiApplication>
 #include <QSet>
 #include <QStringList>
-
 #include <cstdio>
 
 namespace {
