@@ -2,6 +2,7 @@
 
 #include "calculator/engine/CapacityUnits.h"
 #include "language/LangString.h"
+#include "platform/WinTypes.h"
 #include "sf/SFButton.h"
 #include "sf/SFComboBox.h"
 #include "sf/SFControlTypes.h"
@@ -27,10 +28,10 @@ const unsigned long kStyleVisibleTab = SF_WS_VISIBLE | 0x00010000ul;
 const RECT kNoRect = { 0, 0, 0, 0 };
 
 // Text alignment words of the labels.
-const unsigned int kAlignLeft = 0;
-const unsigned int kAlignRight = 2;
-const unsigned int kAlignLeftCentred = 4;
-const unsigned int kAlignRightCentred = 5;
+const unsigned int kAlignLeft = DT_LEFT;
+const unsigned int kAlignRight = DT_RIGHT;
+const unsigned int kAlignLeftCentred = DT_LEFT | DT_VCENTER;
+const unsigned int kAlignCentred = DT_CENTER | DT_VCENTER;
 
 const int kTotalsTextSize = 18;
 const int kCaptionTextSize = 16;
@@ -203,7 +204,7 @@ void CCalculatorBottom::CreateTotalsAndRadios()
         const char* pszName;
     };
     const TotalLabel totals[] = {
-        { nullptr, L"Total", { 0, 5, 70, 30 }, kAlignRightCentred, kNameTotal },
+        { nullptr, L"Total", { 0, 5, 70, 30 }, kAlignCentred, kNameTotal },
         { &m_pStaticChannelCount,
           nullptr,
           { 100, 5, w + 40, 30 },

@@ -12,15 +12,9 @@
 #include "sf/ISFRadioBoxEvent.h"
 #include "sf/ISFStaticEvent.h"
 #include "sf/ISFViewEvent.h"
+#include "sf/SFFwd.h"
 
 #include <string>
-
-class CSFButton;
-class CSFComboBox;
-class CSFEditCtrl;
-class CSFNumSpiner;
-class CSFRadioBox;
-class CSFStatic;
 
 class CCalculatorBottom : public ISFViewEvent,
                           public ISFButtonEvent,

@@ -46,3 +46,7 @@ typedef tagSIZE SIZE;
 typedef tagRECT RECT;
 typedef tagRECT* LPRECT;
 typedef const tagRECT* LPCRECT;
+
+// DrawText's alignment bits, as text labels take them.
+constexpr unsigned int DT_LEFT = 0x0, DT_CENTER = 0x1, DT_RIGHT = 0x2, DT_VCENTER = 0x4,
+                       DT_WORDBREAK = 0x10, DT_SINGLELINE = 0x20, DT_EDITCONTROL = 0x2000;

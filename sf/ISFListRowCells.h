@@ -2,15 +2,10 @@
 // What a row binder may reach of a list control: the controls of a row, by
 // the kind of cell that holds them, and the list's own settings.
 
+#include "sf/SFFwd.h"
+
 #include <utility>
 #include <vector>
-
-class CSFButton;
-class CSFComboBox;
-class CSFEditCtrl;
-class CSFNumSpiner;
-class CSFRadioBox;
-class ISFListCtrlEvent;
 
 class ISFListRowCells {
 public:

@@ -2,30 +2,9 @@
 // Where application code gets its controls: each factory returns a new,
 // parentless control (null if it cannot be allocated); Create places it.
 
-class QWidget;
+#include "sf/SFFwd.h"
 
-class CSFButton;
-class CSFCheckBox;
-class CSFComboBox;
-class CSFDialog;
-class CSFEditCtrl;
-class CSFListCtrl;
-class CSFNumSpiner;
-class CSFPictureCtrl;
-class CSFRadioBox;
-class CSFStatic;
-class CSFView;
-class ISFButtonEvent;
-class ISFCheckBoxEvent;
-class ISFComboBoxEvent;
-class ISFDialogEvent;
-class ISFEditCtrlEvent;
-class ISFListCtrlEvent;
-class ISFNumSpinerEvent;
-class ISFPictureCtrlEvent;
-class ISFRadioBoxEvent;
-class ISFStaticEvent;
-class ISFViewEvent;
+class QWidget;
 
 CSFDialog* SFCreateDialog(ISFDialogEvent* handler, QWidget* parent, int flags);
 CSFDialog* SFCreateMainWindow(ISFDialogEvent* handler, QWidget* parent);

@@ -3,14 +3,11 @@
 
 #include "sf/ISFButtonEvent.h"
 #include "sf/ISFDialogEvent.h"
+#include "sf/SFFwd.h"
 
 #include <string>
 
 struct DialogStyle;
-class CSFButton;
-class CSFDialog;
-class CSFPictureCtrl;
-class CSFStatic;
 
 class CAboutDlgEventImp : public ISFDialogEvent, public ISFButtonEvent {
     SF_DECLARE_MSGMAP()

@@ -2,6 +2,7 @@
 
 #include "calculator/CalculatorBottom.h"
 #include "language/LangString.h"
+#include "platform/WinTypes.h"
 #include "preview/ScenePreview.h"
 #include "sf/SFButton.h"
 #include "sf/SFFactory.h"
@@ -12,6 +13,7 @@
 #include "sf/dialogs/SFControlNames.h"
 #include "sf/dialogs/SFReleaseControls.h"
 #include "sf/qt/SFQtConvert.h"
+#include "streams/ChannelColumns.h"
 #include "streams/ChannelRowStyles.h"
 #include "streams/rows/ChannelRowBinder.h"
 
@@ -33,11 +35,10 @@ constexpr unsigned int kListSelectCode = 2;
 constexpr unsigned int kNoId = static_cast<unsigned int>(-1);
 constexpr unsigned long kChildStyle = 0x10000000ul;
 constexpr unsigned long kLabelStyle = 0x10010000ul;
-// DT_VCENTER | DT_SINGLELINE
-constexpr unsigned int kLabelAlign = 0x24;
+constexpr unsigned int kLabelAlign = DT_VCENTER | DT_SINGLELINE;
 constexpr int kLabelTextSize = 16;
 constexpr unsigned long kListExtendedStyle = 0x20;
-constexpr int kColumnCount = 9;
+constexpr int kColumnCount = ChannelColumnCount;
 constexpr int kMaxChannels = 9999;
 
 // The table and the calculator below it, inset from the page's sides.
@@ -258,22 +259,23 @@ void CTallixEventImp::OnAddStreaming()
     m_pList->InsertItem(row, L"");
     for (int i = 0; i < 4; ++i)
         m_szEnvironmentTexts[i] = LangText(kEnvironmentKeys[i]);
-    m_pList->SetItemText(row, 0, std::to_wstring(row + 1).c_str());
-    m_pList->SetItemNumSpiner(row, 1, kMaxChannels, 1, row, ChannelSpinerStyle());
+    m_pList->SetItemText(row, ColNumber, std::to_wstring(row + 1).c_str());
+    m_pList->SetItemNumSpiner(row, ColChannels, kMaxChannels, 1, row, ChannelSpinerStyle());
 
     const ImageComboBoxStyle combo = RowComboStyle();
-    m_pList->SetItemComboBox(1, row, 2, row, combo, LangText(L"--Compression--").c_str(), nullptr,
+    m_pList->SetItemComboBox(CChannelRowBinder::ComboCompression, row, ColCompression, row, combo,
+                             LangText(L"--Compression--").c_str(), nullptr, nullptr);
+    m_pList->SetItemComboBox(CChannelRowBinder::ComboScene, row, ColEnvironment, row, combo,
+                             LangText(L"--Environment--").c_str(), nullptr, m_szEnvironmentTexts);
+    m_pList->SetItemComboBox(CChannelRowBinder::ComboResolution, row, ColResolution, row, combo,
+                             LangText(L"--Resolution--").c_str(), nullptr, nullptr);
+    m_pList->SetItemComboBox(CChannelRowBinder::ComboFrameRate, row, ColFrameRate, row, combo,
+                             LangText(L"--FrameRate--").c_str(), LangText(L"Customize").c_str(),
                              nullptr);
-    m_pList->SetItemComboBox(0, row, 3, row, combo, LangText(L"--Environment--").c_str(), nullptr,
-                             m_szEnvironmentTexts);
-    m_pList->SetItemComboBox(2, row, 4, row, combo, LangText(L"--Resolution--").c_str(), nullptr,
-                             nullptr);
-    m_pList->SetItemComboBox(3, row, 5, row, combo, LangText(L"--FrameRate--").c_str(),
-                             LangText(L"Customize").c_str(), nullptr);
-    m_pList->SetItemCheckWidget(row, 6, AudioToggleStyle());
-    m_pList->SetItemEditCtrl(row, 7, 0);
+    m_pList->SetItemCheckWidget(row, ColAudio, AudioToggleStyle());
+    m_pList->SetItemEditCtrl(row, ColBitrate, 0);
     const ImageButtonStyle remove = DeleteButtonStyle();
-    m_pList->SetItemWidget(row, 8, LangText(L"Delete").c_str(), nullptr, remove, remove);
+    m_pList->SetItemWidget(row, ColOperation, LangText(L"Delete").c_str(), nullptr, remove, remove);
 }
 
 void CTallixEventImp::OnInsertBlankRow()
@@ -282,7 +284,7 @@ void CTallixEventImp::OnInsertBlankRow()
         return;
     const int row = m_nSelectedRow + 1;
     m_pList->InsertItem(row, L"");
-    m_pList->SetItemText(row, 0, std::to_wstring(row + 1).c_str());
+    m_pList->SetItemText(row, ColNumber, std::to_wstring(row + 1).c_str());
 }
 
 void CTallixEventImp::OnClearAll()
@@ -295,7 +297,7 @@ void CTallixEventImp::NumberRows()
 {
     const int rows = m_pList ? m_pList->GetItemCount() : 0;
     for (int row = 0; row < rows; ++row)
-        m_pList->SetItemText(row, 0, std::to_wstring(row + 1).c_str());
+        m_pList->SetItemText(row, ColNumber, std::to_wstring(row + 1).c_str());
 }
 
 void CTallixEventImp::ClearStreams()

@@ -9,6 +9,7 @@
 #include "sf/ISFListCtrlEvent.h"
 #include "sf/ISFRadioBoxEvent.h"
 #include "sf/ISFViewEvent.h"
+#include "sf/SFFwd.h"
 #include "streams/engine/StreamInfo.h"
 
 #include <map>
@@ -16,10 +17,6 @@
 
 class CMainDlgEventImp;
 class CCalculatorBottom;
-class CSFButton;
-class CSFListCtrl;
-class CSFStatic;
-class CSFView;
 
 class CTallixEventImp : public ISFViewEvent,
                         public ISFListCtrlEvent,

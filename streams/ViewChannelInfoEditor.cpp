@@ -1,6 +1,7 @@
 #include "streams/ViewChannelInfoEditor.h"
 
 #include "language/LangString.h"
+#include "platform/WinTypes.h"
 #include "sf/SFButton.h"
 #include "sf/SFComboBox.h"
 #include "sf/SFControlTypes.h"
@@ -43,9 +44,8 @@ constexpr int kToggleLeft = 10;
 constexpr int kToggleWidth = 150;
 constexpr unsigned long kToggleTextColor = 0xFF0000;
 constexpr int kLabelTextSize = 15;
-// DT_VCENTER; DT_RIGHT | DT_VCENTER
-constexpr unsigned int kAlignMiddle = 4;
-constexpr unsigned int kAlignRightMiddle = 6;
+constexpr unsigned int kAlignMiddle = DT_VCENTER;
+constexpr unsigned int kAlignRightMiddle = DT_RIGHT | DT_VCENTER;
 // The channel count stands right, on the row of "Ok".
 constexpr tagRECT kChannelsLabelRect{ 769, 44, 869, 69 };
 constexpr tagRECT kChannelsSpinRect{ 879, 44, 979, 69 };

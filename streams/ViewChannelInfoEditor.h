@@ -8,17 +8,13 @@
 #include "sf/ISFEditCtrlEvent.h"
 #include "sf/ISFNumSpinerEvent.h"
 #include "sf/ISFViewEvent.h"
+#include "sf/SFFwd.h"
 #include "streams/engine/ChannelInfo.h"
 #include "streams/engine/StreamInfo.h"
 
 #include <map>
 
 class CTallixEventImp;
-class CSFButton;
-class CSFComboBox;
-class CSFEditCtrl;
-class CSFNumSpiner;
-class CSFStatic;
 
 class CViewChannelInfoEditor : public ISFViewEvent,
                                public ISFButtonEvent,

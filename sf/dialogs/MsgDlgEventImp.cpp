@@ -1,6 +1,7 @@
 #include "sf/dialogs/MsgDlgEventImp.h"
 
 #include "language/LangString.h"
+#include "platform/WinTypes.h"
 #include "sf/DialogStyle.h"
 #include "sf/SFButton.h"
 #include "sf/SFDialog.h"
@@ -24,8 +25,7 @@ constexpr int kMargin = 10;
 constexpr int kTextInset = 20;
 constexpr int kButtonGap = 20;
 constexpr int kMinTextHeight = 50;
-// DT_CENTER | DT_VCENTER | DT_WORDBREAK | DT_EDITCONTROL
-constexpr unsigned int kTextAlign = 8213;
+constexpr unsigned int kTextAlign = DT_CENTER | DT_VCENTER | DT_WORDBREAK | DT_EDITCONTROL;
 constexpr unsigned int kPressedTextColor = 0xFFFFFF;
 
 CSFButton* MakeTextButton(CMsgDlgEventImp* handler, const wchar_t* key, const tagRECT& rect,

@@ -4,13 +4,11 @@
 
 #include "sf/ISFButtonEvent.h"
 #include "sf/ISFDialogEvent.h"
+#include "sf/SFFwd.h"
 
 #include <string>
 
 struct DialogStyle;
-class CSFButton;
-class CSFDialog;
-class CSFStatic;
 
 class CMsgDlgEventImp : public ISFDialogEvent, public ISFButtonEvent {
     SF_DECLARE_MSGMAP()

@@ -17,6 +17,7 @@
 #include "sf/ISFListRowCells.h"
 #include "sf/ISFNumSpinerEvent.h"
 #include "sf/ISFRadioBoxEvent.h"
+#include "sf/SFFwd.h"
 #include "sf/SFListCtrl.h"
 
 #include <QColor>
@@ -33,11 +34,6 @@
 #include <utility>
 #include <vector>
 
-class CSFButton;
-class CSFComboBox;
-class CSFEditCtrl;
-class CSFNumSpiner;
-class CSFRadioBox;
 class CSFQTListRowDelegate;
 class QHBoxLayout;
 class QProgressBar;

@@ -1,5 +1,6 @@
 #include "sf/qt/SFQTStatic.h"
 
+#include "platform/WinTypes.h"
 #include "sf/qt/SFQtConvert.h"
 #include "sf/qt/SFSkinParse.h"
 
@@ -12,13 +13,6 @@
 namespace {
 
 constexpr int kDefaultTwinkleMs = 2000;
-
-// Win32 DrawText bits that SetTextAlignFlag reads.
-constexpr unsigned int kDtCenter = 0x1;
-constexpr unsigned int kDtRight = 0x2;
-constexpr unsigned int kDtVCenter = 0x4;
-constexpr unsigned int kDtWordBreak = 0x10;
-constexpr unsigned int kDtSingleLine = 0x20;
 
 } // namespace
 
@@ -71,18 +65,18 @@ void CSFQTStatic::SetStaticText(const wchar_t* text)
 void CSFQTStatic::SetTextAlignFlag(unsigned int flags)
 {
     int result = 0;
-    if (flags & kDtRight)
+    if (flags & DT_RIGHT)
         result = Qt::AlignRight;
-    else if (flags & kDtCenter)
+    else if (flags & DT_CENTER)
         result = Qt::AlignHCenter;
     else
         result = Qt::AlignLeft;
-    if (flags & kDtVCenter)
+    if (flags & DT_VCENTER)
         result |= int(Qt::AlignVCenter);
-    if (flags & kDtWordBreak)
+    if (flags & DT_WORDBREAK)
         result =
             (result & ~int(Qt::TextSingleLine)) | int(Qt::TextWordWrap) | int(Qt::TextDontClip);
-    if (flags & kDtSingleLine)
+    if (flags & DT_SINGLELINE)
         result = (result & ~int(Qt::TextWordWrap)) | int(Qt::TextSingleLine);
     if (result == 0)
         result = int(Qt::AlignHCenter) | int(Qt::AlignVCenter);

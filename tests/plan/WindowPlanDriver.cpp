@@ -11,11 +11,12 @@
 #include "sf/qt/SFApplication.h"
 #include "shell/MainDlgEventImp.h"
 #include "shell/MainWindowBringUp.h"
+#include "streams/ChannelColumns.h"
+#include "tests/streams/PageTestSupport.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
-#include <QFile>
 #include <QLineEdit>
 #include <QSpinBox>
 #include <QTableWidget>
@@ -28,17 +29,6 @@ namespace {
 const unsigned kAddButton = 0x803;
 const unsigned kClearButton = 0xBCC;
 const unsigned kListCtrl = 0x7DE;
-
-// Columns of a channel row.
-enum {
-    ColChannels = 1,
-    ColCompression,
-    ColScene,
-    ColResolution,
-    ColFrameRate,
-    ColAudio,
-    ColBitrate
-};
 
 QString Name(const char* pszKind, unsigned nId)
 {
@@ -58,22 +48,6 @@ QString StaticText(const QWidget* w)
 QString OneLine(QString strValue)
 {
     return strValue.replace(QStringLiteral("\r\n"), QStringLiteral(" "));
-}
-
-void UseProgramEnvironment(int nLanguage)
-{
-    SFSetSkinPath(TALLIX_APP_DIR L"/Bin/Skin/");
-    static bool bStyled = false;
-    if (!bStyled) {
-        QFile sheet(QStringLiteral(TALLIX_APP_DIR "/Tallix_Style.css"));
-        if (sheet.open(QIODevice::ReadOnly))
-            qApp->setStyleSheet(QString::fromUtf8(sheet.readAll()));
-        bStyled = true;
-    }
-    g_UISetting.m_nRecordblePersentage = 90;
-    g_nLanguage = nLanguage;
-    SFSetLanguageDirForTesting(TALLIX_APP_DIR);
-    SFResetLanguageForTesting();
 }
 
 } // namespace
@@ -152,7 +126,7 @@ void CWindowPlanDriver::EnterRows(const std::vector<SiteRow>& rows)
         if (QComboBox* c = combo(ColCompression))
             c->setCurrentIndex(row.nCompression);
         if (row.nScene > 0 && row.nCompression >= 3) {
-            if (QComboBox* c = combo(ColScene))
+            if (QComboBox* c = combo(ColEnvironment))
                 c->setCurrentIndex(row.nScene);
         }
         if (QComboBox* c = combo(ColResolution))

@@ -147,32 +147,20 @@ int __wrap_vexplay_SetPlayFlag(int port, int flag)
                   __real_vexplay_SetPlayFlag(port, flag));
 }
 
-int __wrap_vexplay_SetFileEndCallback(int port, VEXPLAY_CALLBACK callback, void* user)
-{
-    MaybeDelay("FileEnd");
-    return Record("FileEnd", port, Set(callback), user,
-                  __real_vexplay_SetFileEndCallback(port, callback, user));
-}
+// The four callback setters differ only in their names.
+#define TALLIX_TRACE_CALLBACK_SETTER(name, tag)                                \
+    int __wrap_vexplay_##name(int port, VEXPLAY_CALLBACK callback, void* user) \
+    {                                                                          \
+        MaybeDelay(tag);                                                       \
+        return Record(tag, port, Set(callback), user,                          \
+                      __real_vexplay_##name(port, callback, user));            \
+    }
 
-int __wrap_vexplay_SetCallback125(int port, VEXPLAY_CALLBACK callback, void* user)
-{
-    MaybeDelay("Cb125");
-    return Record("Cb125", port, Set(callback), user,
-                  __real_vexplay_SetCallback125(port, callback, user));
-}
+TALLIX_TRACE_CALLBACK_SETTER(SetFileEndCallback, "FileEnd")
+TALLIX_TRACE_CALLBACK_SETTER(SetCallback125, "Cb125")
+TALLIX_TRACE_CALLBACK_SETTER(SetCallback157, "Cb157")
+TALLIX_TRACE_CALLBACK_SETTER(SetCallback109, "Cb109")
 
-int __wrap_vexplay_SetCallback157(int port, VEXPLAY_CALLBACK callback, void* user)
-{
-    MaybeDelay("Cb157");
-    return Record("Cb157", port, Set(callback), user,
-                  __real_vexplay_SetCallback157(port, callback, user));
-}
-
-int __wrap_vexplay_SetCallback109(int port, VEXPLAY_CALLBACK callback, void* user)
-{
-    MaybeDelay("Cb109");
-    return Record("Cb109", port, Set(callback), user,
-                  __real_vexplay_SetCallback109(port, callback, user));
-}
+#undef TALLIX_TRACE_CALLBACK_SETTER
 
 } // extern "C"

@@ -4,7 +4,9 @@
 #include "sf/SFStatic.h"
 #include "sf/qt/SFQTListCtrl.h"
 #include "sf/qt/SFQtConvert.h"
+#include "streams/ChannelColumns.h"
 #include "streams/TallixEventImp.h"
+#include "streams/engine/ChannelRowRules.h"
 #include "tests/session/SessionCalculator.h"
 #include "tests/session/SessionUser.h"
 
@@ -16,24 +18,6 @@
 namespace {
 
 using Reg = CSFQTListCtrl;
-
-enum Column {
-    ColNumber,
-    ColChannels,
-    ColCompression,
-    ColEnvironment,
-    ColResolution,
-    ColFrameRate,
-    ColAudio,
-    ColBitrate,
-    ColOperation
-};
-
-constexpr int kFps30 = 7;
-constexpr int kFps45 = 8;
-constexpr int kFps60 = 9;
-constexpr int kFpsCustom = 10;
-constexpr int k12MP = 12;
 
 QString LabelText(CSFStatic* label)
 {
@@ -60,7 +44,7 @@ QString RateLabel(double kbps)
 QString CustomRateKept(const QString& typed, int resolution)
 {
     const QString kept = typed.left(3);
-    return resolution == k12MP && kept.toInt() > 30 ? QStringLiteral("30") : kept;
+    return resolution == kRowResolution12MP && kept.toInt() > 30 ? QStringLiteral("30") : kept;
 }
 
 bool IsNumber(const QString& text)
@@ -136,7 +120,8 @@ CSessionRows::Plan CSessionRows::PlanFor(int i)
     // 7 and 3 are prime to 12 and 10: every resolution and frame rate comes up.
     p.resolution = 1 + (i * 7) % 12;
     p.frameRate = 1 + (i * 3) % 10;
-    p.customRate = p.frameRate == kFpsCustom ? QString::fromLatin1(customRates[i % 5]) : QString();
+    p.customRate =
+        p.frameRate == kRowFrameRateCustom ? QString::fromLatin1(customRates[i % 5]) : QString();
     p.customRateShown = CustomRateKept(p.customRate, p.resolution);
     p.channelSteps = i % 6;
     p.channelsTyped = i % 8 == 3 ? 16 + i : 0;
@@ -186,9 +171,9 @@ void CSessionRows::Fill(int row, const Plan& p)
     m_user.Choose(Combo(Reg::ResolutionCombos, row, ColResolution), p.resolution,
                   where + QStringLiteral(" resolution"));
     if (QComboBox* rate = Combo(Reg::FrameRateCombos, row, ColFrameRate))
-        m_user.Check(rate->currentIndex() == kFps30,
+        m_user.Check(rate->currentIndex() == kRowFrameRate30,
                      where + QStringLiteral(": a resolution did not start at 30 frames"));
-    if (p.frameRate != kFps30)
+    if (p.frameRate != kRowFrameRate30)
         m_user.Choose(Combo(Reg::FrameRateCombos, row, ColFrameRate), p.frameRate,
                       where + QStringLiteral(" frame rate"));
     if (!p.customRate.isEmpty())
@@ -225,15 +210,15 @@ void CSessionRows::CheckRow(int row, const Plan& p)
                  where + QStringLiteral(": \"Preview\" shown exactly with a scene"));
 
     int rate = p.frameRate;
-    if (p.resolution == k12MP && (rate == kFps45 || rate == kFps60))
-        rate = kFps30;
+    if (p.resolution == kRowResolution12MP && (rate == kRowFrameRate45 || rate == kRowFrameRate60))
+        rate = kRowFrameRate30;
     QComboBox* rateCombo = qobject_cast<QComboBox*>(Widget(Reg::FrameRateCombos, row));
     m_user.Check(rateCombo && rateCombo->currentIndex() == rate,
                  where + QStringLiteral(": frame rate entry %1").arg(rate));
     auto* custom = qobject_cast<QLineEdit*>(Widget(Reg::CustomRateEdits, row));
-    m_user.Check(custom && custom->isHidden() != (rate == kFpsCustom),
+    m_user.Check(custom && custom->isHidden() != (rate == kRowFrameRateCustom),
                  where + QStringLiteral(": custom frame rate shown exactly on \"Customize\""));
-    if (custom && rate == kFpsCustom)
+    if (custom && rate == kRowFrameRateCustom)
         m_user.CheckText(custom->text(), p.customRateShown, where + QStringLiteral(" custom rate"));
 
     const QString bitrate = Text(row, ColBitrate);

@@ -30,7 +30,7 @@ struct PageAbuse : testing::Test {
 
     ~PageAbuse() override { g_strAppDir = appDir; }
 
-    QWidget* Field(R::Register reg, int row, RowColumn col)
+    QWidget* Field(R::Register reg, int row, ChannelColumn col)
     {
         d.List()->scrollTo(d.List()->model()->index(row, col));
         return d.Cell(reg, row);
@@ -68,7 +68,7 @@ const Abuse kAbuses[] = {
 struct FieldCase {
     const char* name;
     R::Register reg;
-    RowColumn col;
+    ChannelColumn col;
     // Longest text the field may end up holding.
     int maxLength;
 };

@@ -80,7 +80,7 @@ TEST_F(PageList, GetItemTextReadsTheCellControls)
 struct OwnRowCase {
     const char* name;
     std::function<void(CPageDriver&)> act;
-    RowColumn col;
+    ChannelColumn col;
     const char* untouched;
     const char* changed;
 };

@@ -128,7 +128,7 @@ const RowCase kRowCases[] = {
 QStringList Snapshot(CPageDriver& d)
 {
     QStringList seen;
-    for (RowColumn col : { ColCompression, ColEnvironment, ColResolution, ColFrameRate })
+    for (ChannelColumn col : { ColCompression, ColEnvironment, ColResolution, ColFrameRate })
         seen << QString::number(d.Index(0, col));
     seen << QString::number(d.ComboEnabled(0, ColEnvironment)) << QString::number(d.PreviewShown(0))
          << QString::number(d.CustomRateShown(0)) << d.CustomRateText(0) << d.Text(0, ColBitrate)

@@ -145,13 +145,13 @@ QWidget* CPageDriver::Cell(CSFQTListCtrl::Register reg, int row) const
     return list ? list->CellWidget(list->RegisterControl(reg, row)) : nullptr;
 }
 
-QWidget* CPageDriver::Reveal(CSFQTListCtrl::Register reg, int row, RowColumn col) const
+QWidget* CPageDriver::Reveal(CSFQTListCtrl::Register reg, int row, ChannelColumn col) const
 {
     List()->scrollTo(List()->model()->index(row, col));
     return Cell(reg, row);
 }
 
-QWidget* CPageDriver::Combo(int row, RowColumn col) const
+QWidget* CPageDriver::Combo(int row, ChannelColumn col) const
 {
     switch (col) {
     case ColCompression:
@@ -186,7 +186,7 @@ void UserChoose(QComboBox* combo, int index)
         ADD_FAILURE() << "the popup stayed open";
 }
 
-void CPageDriver::Choose(int row, RowColumn col, int index)
+void CPageDriver::Choose(int row, ChannelColumn col, int index)
 {
     List()->scrollTo(List()->model()->index(row, col));
     UserChoose(qobject_cast<QComboBox*>(Combo(row, col)), index);
@@ -260,13 +260,13 @@ QString CPageDriver::Text(int row, int col) const
     return QString::fromWCharArray(buffer);
 }
 
-int CPageDriver::Index(int row, RowColumn col) const
+int CPageDriver::Index(int row, ChannelColumn col) const
 {
     const QComboBox* combo = qobject_cast<QComboBox*>(Combo(row, col));
     return combo ? combo->currentIndex() : -100;
 }
 
-bool CPageDriver::ComboEnabled(int row, RowColumn col) const
+bool CPageDriver::ComboEnabled(int row, ChannelColumn col) const
 {
     const QWidget* combo = Combo(row, col);
     return combo && combo->isEnabled();

@@ -3,6 +3,7 @@
 // works its rows the way a user does: clicks, popup choices, typing, keys.
 
 #include "sf/qt/SFQTListCtrl.h"
+#include "streams/ChannelColumns.h"
 
 #include <QPoint>
 #include <QPointer>
@@ -52,19 +53,6 @@ private:
     int m_seen = 0;
 };
 
-// Columns of a channel row.
-enum RowColumn {
-    ColNumber,
-    ColChannels,
-    ColCompression,
-    ColEnvironment,
-    ColResolution,
-    ColFrameRate,
-    ColAudio,
-    ColBitrate,
-    ColOperation
-};
-
 // Combo entries by index, as the row offers them.
 namespace Entry {
 enum Compression { H264 = 1, H265 = 2, Smart264 = 3, Smart265 = 4 };
@@ -85,7 +73,7 @@ public:
     void ClickClearAll();
     void AddRows(int count);
 
-    void Choose(int row, RowColumn col, int index);
+    void Choose(int row, ChannelColumn col, int index);
     void TypeCustomRate(int row, const QString& text);
     void TypeBitrate(int row, const QString& text);
     // Arrow keys on the focused spinner: up for positive steps.
@@ -98,8 +86,8 @@ public:
 
     // What the user sees.
     QString Text(int row, int col) const;
-    int Index(int row, RowColumn col) const;
-    bool ComboEnabled(int row, RowColumn col) const;
+    int Index(int row, ChannelColumn col) const;
+    bool ComboEnabled(int row, ChannelColumn col) const;
     bool PreviewShown(int row) const;
     bool CustomRateShown(int row) const;
     QString CustomRateText(int row) const;
@@ -112,13 +100,13 @@ public:
     void ClickMode(unsigned int radioId);
 
     QWidget* Cell(CSFQTListCtrl::Register reg, int row) const;
-    QWidget* Combo(int row, RowColumn col) const;
+    QWidget* Combo(int row, ChannelColumn col) const;
 
 private:
     // A control of the page by its object name.
     QWidget* Child(const char* name) const;
     // Scrolls the column of the row into view and gives its control.
-    QWidget* Reveal(CSFQTListCtrl::Register reg, int row, RowColumn col) const;
+    QWidget* Reveal(CSFQTListCtrl::Register reg, int row, ChannelColumn col) const;
     CTallixEventImp* m_page;
 };
 
