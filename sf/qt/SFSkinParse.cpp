@@ -78,6 +78,10 @@ QSize SFParseSize(const std::wstring& text)
 QString SFSkinFilePath(const std::wstring& file)
 {
     const QString path = g_strSkinPath + SFToQString(file);
+    // No name gives the folder itself, which loads as no picture: a skin rule
+    // without an image, on which the skins' own spinner buttons rely.
+    if (file.empty())
+        return path;
     // Reading a FIFO blocks, a device never ends: an image that is there but
     // no regular file counts as missing, and an empty path loads nothing.
     struct stat st;
@@ -88,6 +92,9 @@ QString SFSkinFilePath(const std::wstring& file)
 
 QString SFCssQuoted(const QString& text)
 {
+    // Qt ignores url() but draws url("") as an empty image over the native parts.
+    if (text.isEmpty())
+        return text;
     QString quoted;
     quoted.reserve(text.size() + 2);
     quoted += QLatin1Char('"');

@@ -26,7 +26,7 @@ QSize SFParseSize(const std::wstring& text);
 QString SFSkinFilePath(const std::wstring& file);
 // The text as a style-sheet string, quotes included: install paths may hold
 // quotes, backslashes, '$', '%' or any character, and unquoted they break the
-// widget's whole sheet.
+// widget's whole sheet. The empty text stays empty.
 QString SFCssQuoted(const QString& text);
 // A PNG of the skin directory, or null when the file does not load.
 std::unique_ptr<QPixmap> SFLoadSkinPixmap(const std::wstring& file);

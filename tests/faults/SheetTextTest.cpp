@@ -61,6 +61,8 @@ const QuoteCase kQuoteCases[] = {
     { "/back\\slash/a.png", "\"/back\\\\slash/a.png\"" },
     { "/line\nbreak/a.png", "\"/line\\\nbreak/a.png\"" },
     { "/应用 ünïcødé ☃/a.png", "\"/应用 ünïcødé ☃/a.png\"" },
+    // No image: url() stays empty, which Qt ignores.
+    { "", "" },
 };
 
 TEST(SheetText, PathsQuotedWithEscapes)

@@ -50,6 +50,12 @@ for _ in $(seq 50); do
 done
 [ -n "$painted" ] || fail "the window does not show its skin (toolbar ${colours[0]:-?}, page ${colours[1]:-?})"
 
+# The day spinner's skinned arrows, as the README's picture shows them; the
+# platform's own darker arrows there mean its sheet was lost.
+mapfile -t arrows < <("$grab" "$wid" - 357,580 357,598 2>/dev/null || true)
+[ "${arrows[0]:-}" = "#646970" ] && [ "${arrows[1]:-}" = "#85898e" ] ||
+  fail "the day spinner lost its skin (arrows ${arrows[0]:-?}, ${arrows[1]:-?})"
+
 # The close button, 1069, 8 to 1096, 32, clicked in its middle.
 xdotool mousemove --window "$wid" 1082 20 click 1
 wait_exit 20
