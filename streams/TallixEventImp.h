@@ -74,7 +74,8 @@ private:
     // Column 0 reads 1, 2, 3 ... again.
     void NumberRows();
 
-    CMainDlgEventImp* m_pOwner;
+    // The main dialog that hosts the page, as handed over; nothing reads it.
+    [[maybe_unused]] CMainDlgEventImp* m_pOwner;
     std::wstring m_szEnvironmentTexts[4];
     CSFListCtrl* m_pList;
     CSFStatic* m_pLabelAdd;

@@ -43,5 +43,6 @@ private:
     std::wstring m_strText;
     std::wstring m_strTitle;
     int m_nBtnMode;
-    int m_nReserved;
+    // Kept as the caller passes it; nothing reads it.
+    [[maybe_unused]] int m_nReserved;
 };

@@ -77,7 +77,7 @@ QSize SFParseSize(const std::wstring& text)
 
 QString SFSkinFilePath(const std::wstring& file)
 {
-    const QString path = g_strSkinPath + SFToQString(file);
+    QString path = g_strSkinPath + SFToQString(file);
     // No name gives the folder itself, which loads as no picture: a skin rule
     // without an image, on which the skins' own spinner buttons rely.
     if (file.empty())
