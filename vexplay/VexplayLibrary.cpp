@@ -5,6 +5,7 @@
 #include <QLoggingCategory>
 #include <algorithm>
 #include <cstdint>
+#include <cstring>
 #include <dlfcn.h>
 #include <elf.h>
 #include <fcntl.h>
@@ -50,7 +51,7 @@ bool SafeToMap(const std::string& path)
         ::pread(fd, &header, sizeof header, 0) == static_cast<ssize_t>(sizeof header)) {
         const auto size = static_cast<std::uint64_t>(st.st_size);
         const bool own =
-            std::equal(ELFMAG, ELFMAG + SELFMAG, header.e_ident) &&
+            std::memcmp(header.e_ident, ELFMAG, SELFMAG) == 0 &&
             header.e_ident[EI_CLASS] == (sizeof(void*) == 8 ? ELFCLASS64 : ELFCLASS32) &&
             header.e_type == ET_DYN &&
             (kOwnMachine == EM_NONE || header.e_machine == kOwnMachine) &&
